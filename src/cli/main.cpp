@@ -1,1 +1,231 @@
-int main(int, char**) { return 0; }
+// tombi-cli: the headless companion of Tombi. It works on the same engine as the program and
+// prints plain UTF-8 lines, so archives, tip files and settings can be checked and built in
+// scripts, and the build can make the archives it ships.
+//
+// Exit codes: 0 success, 1 bad input (the Czech message goes to stderr), 2 usage error.
+
+#include "data/Archiv_Tahu.h"
+#include "data/Nastaveni.h"
+#include "data/Soubor_Tipu.h"
+#include "data/Soubory.h"
+#include "net/Import_Tahu.h"
+
+#include <QFileInfo>
+#include <QString>
+#include <QStringList>
+
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+constexpr int Uspech = 0;
+constexpr int Chybny_Vstup = 1;
+constexpr int Chybne_Pouziti = 2;
+
+const char* const Pouziti =
+    "Použití:\n"
+    "  tombi-cli import --dbf SOUBOR --out SOUBOR.sez\n"
+    "  tombi-cli import --csv SOUBOR --den streda|nedele --out SOUBOR.sez\n"
+    "  tombi-cli archive SOUBOR.sez [--list 1|2]\n"
+    "  tombi-cli tips SOUBOR.tip\n"
+    "  tombi-cli tips --convert SOUBOR.tip\n"
+    "  tombi-cli cfg SOUBOR\n";
+
+void Vypis(const QString& radek) {
+    const QByteArray b = radek.toUtf8();
+    std::fwrite(b.constData(), 1, size_t(b.size()), stdout);
+    std::fputc('\n', stdout);
+}
+
+int Chyba(const QString& zprava) {
+    const QByteArray b = zprava.toUtf8();
+    std::fwrite(b.constData(), 1, size_t(b.size()), stderr);
+    std::fputc('\n', stderr);
+    return Chybny_Vstup;
+}
+
+int Spatne_Pouziti(const QString& co) {
+    if (!co.isEmpty())
+        Chyba(co);
+    std::fputs(Pouziti, stderr);
+    return Chybne_Pouziti;
+}
+
+// Options of the form "--name value" after the command; anything else is a positional argument.
+struct Argumenty {
+    QStringList Pozicni;
+    QList<std::pair<QString, QString>> Volby;
+    QStringList Prepinace; // options without a value
+    QString Chyba;
+
+    std::optional<QString> Volba(const QString& jmeno) const {
+        for (const auto& [k, v] : Volby)
+            if (k == jmeno)
+                return v;
+        return std::nullopt;
+    }
+};
+
+Argumenty Rozeber(const QStringList& args, const QStringList& s_hodnotou, const QStringList& bez_hodnoty) {
+    Argumenty a;
+    for (qsizetype i = 0; i < args.size(); ++i) {
+        const QString& x = args[i];
+        if (!x.startsWith(u"--")) {
+            a.Pozicni << x;
+        } else if (bez_hodnoty.contains(x)) {
+            a.Prepinace << x;
+        } else if (s_hodnotou.contains(x) && i + 1 < args.size()) {
+            a.Volby.append({x, args[++i]});
+        } else {
+            a.Chyba = u"Neznámá nebo neúplná volba \""_qs + x + u"\"."_qs;
+        }
+    }
+    return a;
+}
+
+QString Radek_Archivu(const Archiv_Tahu& archiv) {
+    const auto [tahy1, tahy2] = Spocitej_Tahy(archiv);
+    return u"let %1 tahy1 %2 tahy2 %3"_qs.arg(archiv.Pocet_Let).arg(tahy1).arg(tahy2);
+}
+
+int Import(const QStringList& args) {
+    const Argumenty a = Rozeber(args, {u"--dbf"_qs, u"--csv"_qs, u"--den"_qs, u"--out"_qs}, {});
+    if (!a.Chyba.isEmpty() || !a.Pozicni.isEmpty())
+        return Spatne_Pouziti(a.Chyba);
+    const auto dbf = a.Volba(u"--dbf"_qs);
+    const auto csv = a.Volba(u"--csv"_qs);
+    const auto den = a.Volba(u"--den"_qs);
+    const auto vystup = a.Volba(u"--out"_qs);
+    if (!vystup || dbf.has_value() == csv.has_value() || (csv && !den) || (dbf && den))
+        return Spatne_Pouziti({});
+    std::optional<Den> den_tahu;
+    if (den == u"streda")
+        den_tahu = Den::Streda;
+    else if (den == u"nedele")
+        den_tahu = Den::Nedele;
+    else if (csv)
+        return Spatne_Pouziti(u"Den musí být \"streda\" nebo \"nedele\"."_qs);
+
+    const QString zdroj = dbf ? *dbf : *csv;
+    const auto bajty = Nacti_Soubor(zdroj);
+    if (!bajty)
+        return Chyba(u"Soubor \""_qs + zdroj + u"\" nelze přečíst."_qs);
+    const Import_Vysledek vysledek = dbf ? Importuj_Dbf(*bajty) : Importuj_Csv(*bajty, *den_tahu);
+    if (!vysledek.Stav.Ok())
+        return Chyba(vysledek.Stav.Zprava);
+    if (vysledek.Pocet_Let() == 0)
+        return Chyba(u"Není soubor s tahy \""_qs + QFileInfo(zdroj).completeBaseName() +
+                     u".dbf (.xls)\" nebo je v něm chyba."_qs);
+
+    Archiv_Tahu archiv;
+    archiv.Pole_Tahu = vysledek.Roky;
+    archiv.Pocet_Let = vysledek.Pocet_Let();
+    const QFileInfo cil(*vystup);
+    const Vysledek zapis = Uloz_Tahy(archiv, cil.absolutePath(), cil.fileName());
+    if (!zapis.Ok())
+        return Chyba(zapis.Zprava);
+    Vypis(Radek_Archivu(archiv));
+    return Uspech;
+}
+
+int Archiv(const QStringList& args) {
+    const Argumenty a = Rozeber(args, {u"--list"_qs}, {});
+    if (!a.Chyba.isEmpty() || a.Pozicni.size() != 1)
+        return Spatne_Pouziti(a.Chyba);
+    const auto seznam = a.Volba(u"--list"_qs);
+    if (seznam && seznam != u"1" && seznam != u"2")
+        return Spatne_Pouziti(u"Seznam tahů je 1 nebo 2."_qs);
+
+    const QFileInfo soubor(a.Pozicni.front());
+    Archiv_Tahu archiv;
+    const Vysledek nacteni = Nacti_Tahy(archiv, soubor.absolutePath(), soubor.fileName());
+    if (!nacteni.Ok())
+        return Chyba(nacteni.Zprava);
+    Vypis(Radek_Archivu(archiv));
+    if (!seznam)
+        return Uspech;
+
+    Priprav_Seznamy_Tahu(archiv);
+    const bool prvni = seznam == u"1";
+    const std::vector<Tah>& tahy = prvni ? archiv.Tahy_1 : archiv.Tahy_2;
+    const int pocet = prvni ? archiv.Pocet_Tahy_1 : archiv.Pocet_Tahy_2;
+    for (int i = 1; i <= pocet; ++i) {
+        QString radek = QString::number(i);
+        for (uint8_t cislo : tahy[size_t(i)])
+            radek += u' ' + QString::number(cislo);
+        Vypis(radek);
+    }
+    return Uspech;
+}
+
+int Tipy(const QStringList& args) {
+    const Argumenty a = Rozeber(args, {}, {u"--convert"_qs});
+    if (!a.Chyba.isEmpty() || a.Pozicni.size() != 1)
+        return Spatne_Pouziti(a.Chyba);
+    const QString cesta = a.Pozicni.front();
+    Stav_Tipu stav;
+
+    if (a.Prepinace.contains(u"--convert")) {
+        const Vysledek konverze = Konvertuj_Soubor_Tipu(stav, cesta);
+        if (!konverze.Ok())
+            return Chyba(konverze.Zprava);
+        Vypis(Text_Konverze_Hotova);
+        return Uspech;
+    }
+
+    const Vysledek nacteni = Nacti_Soubor_Tipu(stav, cesta);
+    if (!nacteni.Ok())
+        return Chyba(nacteni.Zprava);
+    const Zaznam_Tipu& z = stav.Soubor_Tipu;
+    Vypis(u"tikety %1 tipy %2 seznam %3"_qs.arg(z.Pocet_Tiketu).arg(z.Pocet_Tipu).arg(z.Seznam_Soubor));
+    const int tiketu = std::min<int>(z.Pocet_Tiketu, Max_Tiketu);
+    for (int t = 1; t <= tiketu; ++t) {
+        const Tiket& tiket = z.Tikety[t];
+        for (int s = 1; s <= Sloupcu_Tiketu; ++s) {
+            const Tip& tip = tiket.Cisla[s];
+            if (tip[1] == 0)
+                continue;
+            QString radek = u"%1 %2 %3"_qs.arg(t).arg(tiket.Cislo_Tiketu).arg(s);
+            for (uint8_t cislo : tip)
+                radek += u' ' + QString::number(cislo);
+            Vypis(radek);
+        }
+    }
+    return Uspech;
+}
+
+int Nastaveni(const QStringList& args) {
+    if (args.size() != 1 || args.front().startsWith(u"--"))
+        return Spatne_Pouziti({});
+    const auto bajty = Nacti_Soubor(args.front());
+    if (!bajty)
+        return Chyba(u"Soubor \""_qs + args.front() + u"\" nelze přečíst."_qs);
+    for (const QString& radek : Vypis_Nastaveni(Cti_Nastaveni(*bajty)))
+        Vypis(radek);
+    return Uspech;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QStringList args;
+    for (int i = 1; i < argc; ++i)
+        args << QString::fromLocal8Bit(argv[i]);
+    if (args.isEmpty())
+        return Spatne_Pouziti({});
+    const QString prikaz = args.takeFirst();
+    if (prikaz == u"--help" || prikaz == u"-h") {
+        std::fputs(Pouziti, stdout);
+        return Uspech;
+    }
+    if (prikaz == u"import")
+        return Import(args);
+    if (prikaz == u"archive")
+        return Archiv(args);
+    if (prikaz == u"tips")
+        return Tipy(args);
+    if (prikaz == u"cfg")
+        return Nastaveni(args);
+    return Spatne_Pouziti(u"Neznámý příkaz \""_qs + prikaz + u"\"."_qs);
+}
