@@ -51,9 +51,11 @@ std::strong_ordering Porovnej_Jako_Text(double a, double b);
 std::strong_ordering Porovnej_Jako_Text(QStringView a, QStringView b);
 
 // Format with a mask: '#' is a digit if there is one, '0' a digit or zero, '.' the decimal point
-// (shown as a Czech decimal comma), every other character stands for itself. Digits that do not
-// fit stand before the first placeholder. The value is rounded half away from zero to the
-// places after the point. "dd.mm.yy" and the like format a date.
+// (shown as a Czech decimal comma), every other character stands for itself, also left of the
+// first digit: Format(5, "### ###") is " 5". Digits that do not fit stand before the first
+// placeholder. The value is rounded half away from zero to the places after the point, on its
+// 15-digit decimal text (1.005 gives "1,01"); a negative value has '-' before its first digit.
+// A date takes d, dd, m, mm, yy and yyyy ("dd.mm.yy"); an invalid date gives an empty text.
 QString Format(double x, QStringView maska);
 QString Format(const QDate& datum, QStringView maska);
 

@@ -3,10 +3,14 @@
 // of 956 bytes a year, read whole into memory, and the two flat lists of first and second draws.
 
 #include "app/Pole_Od_1.h"
+#include "app/Vysledek.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <cstdint>
+#include <optional>
+#include <utility>
 #include <vector>
 
 // One draw: six drawn numbers and the supplementary number, 0 meaning no number.
@@ -30,3 +34,51 @@ struct Rok_Zaznam {
 
 inline constexpr int Delka_Tydne = 18;
 inline constexpr int Delka_Roku = 2 + 53 * Delka_Tydne; // 956
+
+// The draw day, with the values of Den_Tahu: 1 Wednesday, 0 Sunday.
+enum class Den : uint8_t { Nedele = 0, Streda = 1 };
+
+// The archive of the chosen draw day as the session holds it. Pole_Tahu and the flat lists keep an
+// unused element 0, so that index i is year record i and draw i, as everything else counts.
+struct Archiv_Tahu {
+    std::vector<Rok_Zaznam> Pole_Tahu = std::vector<Rok_Zaznam>(1);
+    int Pocet_Let = 0;
+    QString Soubor_Tahu;
+    bool Tahy_Nacteny = false; // set by a load that got through, never cleared by a later failure
+    std::vector<Tah> Tahy_1 = std::vector<Tah>(1);
+    std::vector<Tah> Tahy_2 = std::vector<Tah>(1);
+    int Pocet_Tahy_1 = 0;
+    int Pocet_Tahy_2 = 0;
+    int16_t Rok_Zacatek_1 = 0;
+    int16_t Rok_Zacatek_2 = 0;
+};
+
+// "SpS_tahy.sez" for Wednesday, "SpN_tahy.sez" for Sunday.
+QString Soubor_Tahu_Dne(Den den);
+// The day whose archive the file name is, case aside; nothing for any other name.
+std::optional<Den> Den_Souboru_Tahu(const QString& soubor);
+// Sets Soubor_Tahu and the first years of first and second draws of the day; loads nothing.
+void Nastav_Den_Archivu(Archiv_Tahu& archiv, Den den);
+// The backup's name: the name without its last four characters, then ".zal".
+QString Jmeno_Zalohy(const QString& soubor);
+
+// Year records of a .sez image, element 0 included and unused. Reading stops at a record whose
+// Rok is 0; a short last record is read as far as it goes, its missing bytes zero.
+std::vector<Rok_Zaznam> Cti_Roky(const QByteArray& bajty);
+// The image of records 1..pocet_let (at most as many as there are).
+QByteArray Zapis_Roky(const std::vector<Rok_Zaznam>& roky, int pocet_let);
+
+// Loads adresar/soubor into the archive. The old archive is dropped first, so a failure leaves
+// the session without draws (Pocet_Let 0). The flat lists are the caller's to rebuild.
+Vysledek Nacti_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QString& soubor);
+// Writes Pocet_Let records to adresar/soubor, replacing the old file whole or not at all.
+Vysledek Uloz_Tahy(const Archiv_Tahu& archiv, const QString& adresar, const QString& soubor);
+// Renames adresar/soubor to its .zal (one generation: the older backup goes). With druh 1 the
+// live file is then written anew from memory.
+Vysledek Zaloha_Souboru(int druh, const Archiv_Tahu& archiv, const QString& adresar, const QString& soubor);
+// Puts the .zal of Soubor_Tahu back in place of the live file; the backup is used up.
+Vysledek Obnov_Zalohu(const Archiv_Tahu& archiv, const QString& adresar);
+// Rebuilds Tahy_1 and Tahy_2 from the flagged weeks, in file order.
+void Priprav_Seznamy_Tahu(Archiv_Tahu& archiv);
+// Counts of flagged first and of flagged second draws (Pocet_Tahu_1 and Pocet_Tahu_2 of pTikety).
+std::pair<int, int> Spocitej_Tahy(const Archiv_Tahu& archiv);

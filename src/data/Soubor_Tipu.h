@@ -3,9 +3,11 @@
 // counters and the name of the bettors' list that goes with the tips.
 
 #include "app/Pole_Od_1.h"
+#include "app/Prubeh.h"
+#include "app/Vysledek.h"
 
+#include <QByteArray>
 #include <QString>
-
 #include <cstdint>
 
 // One column of a ticket: six numbers 1..49, 0 empty. A column whose first number is 0 is empty.
@@ -20,3 +22,91 @@ struct Tiket {
 
 inline constexpr int Max_Tiketu = 950;
 inline constexpr int Sloupcu_Tiketu = 10;
+
+// The tip store as it lies in a .tip file: 950 tickets, the counters and the linked bettors' list.
+// Tickets beyond Pocet_Tiketu are zero.
+struct Zaznam_Tipu {
+    Pole_Od_1<Tiket, Max_Tiketu> Tikety;
+    int16_t Pocet_Tiketu = 0;
+    int16_t Pocet_Tipu = 0;
+    QString Seznam_Soubor; // bare file name of the bettors' list; 2 characters or fewer is no link
+    friend bool operator==(const Zaznam_Tipu&, const Zaznam_Tipu&) = default;
+};
+
+// Layout of the current format: tickets of 64 bytes, then the counters and the list name.
+inline constexpr int Delka_Tiketu = 64;
+inline constexpr int Posun_Pocet_Tiketu = Max_Tiketu * Delka_Tiketu; // 60800
+inline constexpr int Posun_Pocet_Tipu = Posun_Pocet_Tiketu + 2;      // 60802
+inline constexpr int Posun_Delky_Seznamu = Posun_Pocet_Tiketu + 4;   // 60804
+inline constexpr int Delka_Zaznamu_Tipu = Posun_Pocet_Tiketu + 6;    // 60806 + the list name
+
+// The older format, read only to be converted: 1000 tickets of 8 columns, 52 bytes each.
+inline constexpr int Max_Starych_Tiketu = 1000;
+inline constexpr int Sloupcu_Stareho_Tiketu = 8;
+inline constexpr int Delka_Stareho_Tiketu = 52;
+inline constexpr int Delka_Stareho_Zaznamu = Max_Starych_Tiketu * Delka_Stareho_Tiketu + 6; // 52006 + the name
+
+struct Stary_Tiket {
+    Pole_Od_1<Tip, Sloupcu_Stareho_Tiketu> Cisla;
+    int32_t Cislo_Tiketu = 0;
+    friend bool operator==(const Stary_Tiket&, const Stary_Tiket&) = default;
+};
+
+struct Stary_Zaznam_Tipu {
+    Pole_Od_1<Stary_Tiket, Max_Starych_Tiketu> Tikety;
+    int16_t Pocet_Tiketu = 0;
+    int16_t Pocet_Tipu = 0;
+    QString Seznam_Soubor;
+};
+
+// Reading is a plain record read: a short file leaves the rest zero, a list name whose length runs
+// past the end gets what is there (a negative length counts as 0), bytes past the record are
+// ignored. Any bytes are accepted.
+Zaznam_Tipu Cti_Zaznam_Tipu(const QByteArray& bajty);
+Stary_Zaznam_Tipu Cti_Stary_Zaznam_Tipu(const QByteArray& bajty);
+// Exactly Delka_Zaznamu_Tipu + the length of the list name in code page 1250.
+QByteArray Zapis_Zaznam_Tipu(const Zaznam_Tipu& zaznam);
+
+// Repacks the tips of an old record into tickets of ten columns, keeping Pocet_Tipu and the list
+// name. A ticket count outside 0..1000 is held to the record.
+Zaznam_Tipu Preved_Stary_Zaznam(const Stary_Zaznam_Tipu& stary, const Prubeh& prubeh = {});
+
+// What the session knows about its tips. Both stores are large; the struct lives in the session.
+struct Stav_Tipu {
+    Zaznam_Tipu Soubor_Tipu;
+    // What an append read, and afterwards the copy of the merged store for the undo of the tip list.
+    Zaznam_Tipu Soubor_Tipu_Pripojeny;
+    QString Jmeno_Souboru_Tipu; // name of the open file without directory and extension
+    bool Je_Soubor_Tipu = false;
+    int16_t Pocet_Tipu_Aktivni = 0;
+    QString Seznam_Navazany; // copy of Seznam_Soubor for the list window
+};
+
+// How a file is being opened: through the open dialog, or from the recent files, which skips the
+// test of an empty file and of the old format.
+enum class Otevreni { Z_Dialogu, Z_Nedavnych };
+
+// Reads the file into Soubor_Tipu. The store is overwritten before the old-format test, so a refused
+// file still leaves what was read in it; the rest of the state stays. An empty or unreadable file
+// leaves the store as it was. On success the caller goes on with Po_Otevreni_Tipu.
+Vysledek Nacti_Soubor_Tipu(Stav_Tipu& stav, const QString& cesta, Otevreni otevreni = Otevreni::Z_Dialogu);
+
+// An old file is shorter than the tip counter, so the counter reads as 0. A new file with no tip
+// at all is refused the same way. `zprava`, if given, receives the message for the user.
+bool Je_Stary_Format(const QString& jmeno, int pocet_tipu, QString* zprava = nullptr);
+
+// Writes Soubor_Tipu. When a bettors' list is loaded, the caller then adds the line of the overview
+// file with Pridej_Do_Prehledu (data/Chyby_A_Prehled.h).
+Vysledek Uloz_Soubor_Tipu(const Stav_Tipu& stav, const QString& cesta);
+
+// Converts an old file in place: reads it, repacks its tips, writes the new record over it and
+// takes it as the open file. A record without tickets (a count of 0 or below) is refused: there is
+// nothing to convert. The state changes only if the file was written. On success the caller
+// shows Text_Konverze_Hotova, enters the name in the recent files, reads the linked list if its
+// name is longer than 2 characters, and opens or reloads the tip list.
+Vysledek Konvertuj_Soubor_Tipu(Stav_Tipu& stav, const QString& cesta, const Prubeh& prubeh = {});
+inline const QString Text_Konverze_Hotova = QStringLiteral("Starý soubor tipů byl převeden na nový formát.");
+
+// The session's part of taking an opened file. The recent files, emptying and reading the linked
+// bettors' list and opening or reloading the tip list window are the caller's.
+void Po_Otevreni_Tipu(Stav_Tipu& stav, const QString& cesta);

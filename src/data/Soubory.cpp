@@ -37,7 +37,9 @@ std::optional<QByteArray> Nacti_Soubor(const QString& cesta) {
 Vysledek Uloz_Soubor(const QString& cesta, const QByteArray& data) {
     Povol_Zapis(cesta);
     QSaveFile f(cesta);
-    if (!f.open(QIODevice::WriteOnly) || f.write(data) != data.size() || !f.commit())
+    // Unbuffered, so that a short write (full disk, size limit) shows in write()'s count: through
+    // the buffer Qt's flush drops it silently and commit() would put a cut file in place.
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || f.write(data) != data.size() || !f.commit())
         return Vysledek::Chyba(u"Soubor \""_qs + cesta + u"\" nelze zapsat: "_qs + f.errorString());
     return Vysledek::Uspech();
 }

@@ -1,10 +1,10 @@
 // tombi-cli as a script sees it: its exit codes, and the exact lines it prints for archives,
 // tip files and settings.
+#include "data/Soubory.h"
+
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include "data/Soubory.h"
 
 namespace {
 
@@ -36,11 +36,12 @@ private slots:
         QTest::addColumn<QStringList>("argumenty");
         QTest::newRow("nic") << QStringList();
         QTest::newRow("neznamy prikaz") << QStringList{u"losuj"_qs};
-        QTest::newRow("import bez vystupu") << QStringList{u"import"_qs, u"--csv"_qs, u"a.csv"_qs, u"--den"_qs, u"streda"_qs};
-        QTest::newRow("import spatny den") << QStringList{u"import"_qs, u"--csv"_qs, u"a"_qs, u"--den"_qs, u"patek"_qs,
-                                                          u"--out"_qs, u"b.sez"_qs};
-        QTest::newRow("import dbf i csv") << QStringList{u"import"_qs, u"--dbf"_qs, u"a"_qs, u"--csv"_qs, u"b"_qs,
-                                                         u"--out"_qs, u"c"_qs};
+        QTest::newRow("import bez vystupu")
+            << QStringList{u"import"_qs, u"--csv"_qs, u"a.csv"_qs, u"--den"_qs, u"streda"_qs};
+        QTest::newRow("import spatny den")
+            << QStringList{u"import"_qs, u"--csv"_qs, u"a"_qs, u"--den"_qs, u"patek"_qs, u"--out"_qs, u"b.sez"_qs};
+        QTest::newRow("import dbf i csv")
+            << QStringList{u"import"_qs, u"--dbf"_qs, u"a"_qs, u"--csv"_qs, u"b"_qs, u"--out"_qs, u"c"_qs};
         QTest::newRow("archive spatny seznam") << QStringList{u"archive"_qs, u"a.sez"_qs, u"--list"_qs, u"3"_qs};
         QTest::newRow("tips bez souboru") << QStringList{u"tips"_qs};
         QTest::newRow("cfg dva soubory") << QStringList{u"cfg"_qs, u"a"_qs, u"b"_qs};
@@ -57,8 +58,8 @@ private slots:
     void Import_A_Vypis_Archivu() {
         QTemporaryDir dir;
         const QString sez = dir.filePath(u"SpS_tahy.sez"_qs);
-        const Beh import = Spust({u"import"_qs, u"--csv"_qs, QStringLiteral(TOMBI_HISTORIE), u"--den"_qs, u"streda"_qs,
-                                  u"--out"_qs, sez});
+        const Beh import = Spust(
+            {u"import"_qs, u"--csv"_qs, QStringLiteral(TOMBI_HISTORIE), u"--den"_qs, u"streda"_qs, u"--out"_qs, sez});
         QCOMPARE(import.Kod, 0);
         QVERIFY(import.Vystup.startsWith(u"let "));
         const Beh archiv = Spust({u"archive"_qs, sez});
@@ -92,7 +93,8 @@ private slots:
         QVERIFY(Uloz_Soubor(stary, QByteArray(52006, '\0')).Ok());
         const Beh tipy = Spust({u"tips"_qs, stary});
         QCOMPARE(tipy.Kod, 1);
-        QCOMPARE(tipy.Chyby.trimmed(), u"Provedte konverzi souboru tipu \"stary.tip\", nelze načíst - starý formát."_qs);
+        QCOMPARE(tipy.Chyby.trimmed(),
+                 u"Provedte konverzi souboru tipu \"stary.tip\", nelze načíst - starý formát."_qs);
     }
 
     // A tip file built by hand: two tickets, the second with one column, and a list link.

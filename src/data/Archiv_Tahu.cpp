@@ -1,0 +1,196 @@
+#include "data/Archiv_Tahu.h"
+
+#include "app/Vb.h"
+#include "data/Soubory.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+QString Chybi_Soubor(const QString& soubor) {
+    return u"Chybí soubor tahů  \""_qs + soubor + u"\"  v aktuálním adresáři."_qs;
+}
+
+// Little-endian 16 bits from a record whose short tail reads as zeros.
+int16_t Cti_16(const uint8_t* p) {
+    return int16_t(uint16_t(p[0]) | uint16_t(p[1]) << 8);
+}
+
+void Zapis_16(char* p, int16_t hodnota) {
+    p[0] = char(uint16_t(hodnota) & 0xFF);
+    p[1] = char(uint16_t(hodnota) >> 8);
+}
+
+Rok_Zaznam Rok_Z_Bajtu(const uint8_t* p) {
+    Rok_Zaznam rok;
+    rok.Rok = Cti_16(p);
+    for (int w = 1; w <= 53; ++w) {
+        const uint8_t* t = p + 2 + Delka_Tydne * (w - 1);
+        Tyden_Zaznam& tyden = rok.Tyden[w];
+        for (int i = 1; i <= 7; ++i) {
+            tyden.Tah1[i] = t[i - 1];
+            tyden.Tah2[i] = t[7 + i - 1];
+        }
+        tyden.Je_Tah1 = Cti_16(t + 14);
+        tyden.Je_Tah2 = Cti_16(t + 16);
+    }
+    return rok;
+}
+
+void Rok_Do_Bajtu(const Rok_Zaznam& rok, char* p) {
+    Zapis_16(p, rok.Rok);
+    for (int w = 1; w <= 53; ++w) {
+        char* t = p + 2 + Delka_Tydne * (w - 1);
+        const Tyden_Zaznam& tyden = rok.Tyden[w];
+        for (int i = 1; i <= 7; ++i) {
+            t[i - 1] = char(tyden.Tah1[i]);
+            t[7 + i - 1] = char(tyden.Tah2[i]);
+        }
+        Zapis_16(t + 14, tyden.Je_Tah1);
+        Zapis_16(t + 16, tyden.Je_Tah2);
+    }
+}
+
+int Platny_Pocet_Let(const Archiv_Tahu& archiv) {
+    return std::clamp(archiv.Pocet_Let, 0, int(archiv.Pole_Tahu.size()) - 1);
+}
+
+} // namespace
+
+QString Soubor_Tahu_Dne(Den den) {
+    return den == Den::Streda ? u"SpS_tahy.sez"_qs : u"SpN_tahy.sez"_qs;
+}
+
+std::optional<Den> Den_Souboru_Tahu(const QString& soubor) {
+    for (const Den den : {Den::Streda, Den::Nedele})
+        if (soubor.compare(Soubor_Tahu_Dne(den), Qt::CaseInsensitive) == 0)
+            return den;
+    return std::nullopt;
+}
+
+void Nastav_Den_Archivu(Archiv_Tahu& archiv, Den den) {
+    archiv.Soubor_Tahu = Soubor_Tahu_Dne(den);
+    // Second draws began in 1965 on Sundays; the Wednesday game has had both since it began.
+    archiv.Rok_Zacatek_1 = den == Den::Streda ? 1995 : 1957;
+    archiv.Rok_Zacatek_2 = den == Den::Streda ? 1995 : 1965;
+}
+
+QString Jmeno_Zalohy(const QString& soubor) {
+    return soubor.left(std::max<qsizetype>(0, soubor.size() - 4)) + u".zal"_qs;
+}
+
+std::vector<Rok_Zaznam> Cti_Roky(const QByteArray& bajty) {
+    std::vector<Rok_Zaznam> roky(1);
+    const auto* data = reinterpret_cast<const uint8_t*>(bajty.constData());
+    const qsizetype delka = bajty.size();
+    roky.reserve(std::size_t(delka / Delka_Roku + 2));
+    for (qsizetype o = 0; o < delka; o += Delka_Roku) {
+        Rok_Zaznam rok;
+        if (delka - o >= Delka_Roku) {
+            rok = Rok_Z_Bajtu(data + o);
+        } else {
+            uint8_t zbytek[Delka_Roku] = {};
+            std::memcpy(zbytek, data + o, std::size_t(delka - o));
+            rok = Rok_Z_Bajtu(zbytek);
+        }
+        if (rok.Rok == 0)
+            break;
+        roky.push_back(rok);
+    }
+    return roky;
+}
+
+QByteArray Zapis_Roky(const std::vector<Rok_Zaznam>& roky, int pocet_let) {
+    const int pocet = std::clamp(pocet_let, 0, int(roky.size()) - 1);
+    QByteArray bajty(qsizetype(pocet) * Delka_Roku, '\0');
+    for (int i = 1; i <= pocet; ++i)
+        Rok_Do_Bajtu(roky[std::size_t(i)], bajty.data() + qsizetype(i - 1) * Delka_Roku);
+    return bajty;
+}
+
+Vysledek Nacti_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QString& soubor) {
+    archiv.Pole_Tahu.assign(1, Rok_Zaznam{});
+    archiv.Pocet_Let = 0;
+    const auto bajty = Nacti_Soubor(Spoj_Cestu(adresar, soubor));
+    if (!bajty)
+        return Vysledek::Chyba(Chybi_Soubor(soubor));
+    archiv.Pole_Tahu = Cti_Roky(*bajty);
+    archiv.Pocet_Let = int(archiv.Pole_Tahu.size()) - 1;
+    archiv.Tahy_Nacteny = true;
+    return Vysledek::Uspech();
+}
+
+Vysledek Uloz_Tahy(const Archiv_Tahu& archiv, const QString& adresar, const QString& soubor) {
+    return Uloz_Soubor(Spoj_Cestu(adresar, soubor), Zapis_Roky(archiv.Pole_Tahu, Platny_Pocet_Let(archiv)));
+}
+
+Vysledek Zaloha_Souboru(int druh, const Archiv_Tahu& archiv, const QString& adresar, const QString& soubor) {
+    const QString a = Spoj_Cestu(adresar, soubor);
+    const QString b = Spoj_Cestu(adresar, Jmeno_Zalohy(soubor));
+    // Without a live file the old backup is all there is: keep it.
+    if (!QFile::exists(a))
+        return Vysledek::Chyba(Chybi_Soubor(soubor));
+    if (QFile::exists(b) && !QFile::remove(b))
+        return Vysledek::Chyba(u"Záložní soubor \""_qs + b + u"\" nelze smazat."_qs);
+    if (!QFile::rename(a, b))
+        return Vysledek::Chyba(u"Soubor \""_qs + a + u"\" nelze přejmenovat na \""_qs + b + u"\"."_qs);
+    if (druh == 1) {
+        Vysledek zapis = Uloz_Tahy(archiv, adresar, soubor);
+        // Without a new live file the day would have no archive at all: bring the old one back.
+        if (!zapis.Ok())
+            QFile::rename(b, a);
+        return zapis;
+    }
+    return Vysledek::Uspech();
+}
+
+Vysledek Obnov_Zalohu(const Archiv_Tahu& archiv, const QString& adresar) {
+    const QString zive = Spoj_Cestu(adresar, archiv.Soubor_Tahu);
+    const QString zaloha = Spoj_Cestu(adresar, Jmeno_Zalohy(archiv.Soubor_Tahu));
+    if (archiv.Soubor_Tahu.isEmpty() || !QFile::exists(zaloha))
+        return Vysledek::Chyba(u"Není soubor *.ZAL  v aktuálním adresáři."_qs);
+    // The live file steps aside rather than being deleted, so a failed rename loses nothing.
+    const QString stranou = zive + u".puvodni"_qs;
+    const bool byl_zivy = QFile::exists(zive);
+    if (byl_zivy) {
+        QFile::remove(stranou);
+        if (!QFile::rename(zive, stranou))
+            return Vysledek::Chyba(u"Soubor \""_qs + zive + u"\" nelze nahradit zálohou."_qs);
+    }
+    if (!QFile::rename(zaloha, zive)) {
+        if (byl_zivy)
+            QFile::rename(stranou, zive);
+        return Vysledek::Chyba(u"Soubor \""_qs + zive + u"\" nelze nahradit zálohou."_qs);
+    }
+    if (byl_zivy)
+        QFile::remove(stranou);
+    return Vysledek::Uspech();
+}
+
+void Priprav_Seznamy_Tahu(Archiv_Tahu& archiv) {
+    const int pocet_let = Platny_Pocet_Let(archiv);
+    auto sestav = [&](std::vector<Tah>& tahy, int& pocet, bool prvni) {
+        tahy.assign(1, Tah{});
+        for (int r = 1; r <= pocet_let; ++r)
+            for (const Tyden_Zaznam& tyden : archiv.Pole_Tahu[std::size_t(r)].Tyden)
+                if (Vb::Je_Pravda(prvni ? tyden.Je_Tah1 : tyden.Je_Tah2))
+                    tahy.push_back(prvni ? tyden.Tah1 : tyden.Tah2);
+        pocet = int(tahy.size()) - 1;
+    };
+    sestav(archiv.Tahy_1, archiv.Pocet_Tahy_1, true);
+    sestav(archiv.Tahy_2, archiv.Pocet_Tahy_2, false);
+}
+
+std::pair<int, int> Spocitej_Tahy(const Archiv_Tahu& archiv) {
+    int prvni = 0, druhe = 0;
+    const int pocet_let = Platny_Pocet_Let(archiv);
+    for (int r = 1; r <= pocet_let; ++r)
+        for (const Tyden_Zaznam& tyden : archiv.Pole_Tahu[std::size_t(r)].Tyden) {
+            prvni += Vb::Je_Pravda(tyden.Je_Tah1);
+            druhe += Vb::Je_Pravda(tyden.Je_Tah2);
+        }
+    return {prvni, druhe};
+}

@@ -1,0 +1,287 @@
+#include "net/Import_Tahu.h"
+
+#include "app/Vb.h"
+#include "data/Soubory.h"
+
+#include <QByteArrayView>
+#include <QFile>
+
+#include <algorithm>
+#include <map>
+#include <optional>
+
+namespace {
+
+// dBase layout: a header of 32 + 16 fields of 32 + 1 bytes, then records of 35 bytes.
+constexpr qsizetype Zacatek_Dbf = 545;
+constexpr qsizetype Delka_Zaznamu_Dbf = 35;
+// Years are counted in 16 bits, as Pocet_Let is.
+constexpr int Nejvic_Let = 32767;
+constexpr int Sloupcu_Csv = 18;
+
+const QString& Konec_Importu() {
+    static const QString text = u" Import byl ukončen, archiv tahů zůstal beze změny."_qs;
+    return text;
+}
+
+Import_Vysledek Chyba(const QString& zprava) {
+    Import_Vysledek v;
+    v.Stav = Vysledek::Chyba(zprava + Konec_Importu());
+    return v;
+}
+
+QString Cislo(int64_t n) {
+    return QString::number(n);
+}
+
+// ---- dBase ----
+
+// A field read as the Basic did: Val over its bytes, rounded as an assignment to a number rounds.
+// Bytes past the end read as nothing. Val looks only at ASCII, and no byte of code page 1250 above
+// 127 decodes to ASCII, so each byte is widened as it is instead of decoding the field.
+int64_t Pole_Dbf(const QByteArray& bajty, qsizetype od, qsizetype delka) {
+    char16_t text[4] = {};
+    const qsizetype n = std::clamp<qsizetype>(std::min(delka, bajty.size() - od), 0, 4);
+    for (qsizetype i = 0; i < n; ++i)
+        text[i] = char16_t(uint8_t(bajty[od + i]));
+    return Vb::Zaokrouhli(Vb::Val(QStringView(text, n)));
+}
+
+// The seven numbers of a draw from `od`; nothing when one does not fit a byte.
+std::optional<Tah> Tah_Dbf(const QByteArray& bajty, qsizetype od) {
+    Tah tah;
+    for (int i = 1; i <= 7; ++i) {
+        const int64_t n = Pole_Dbf(bajty, od + 2 * (i - 1), 2);
+        if (n < 0 || n > 255)
+            return std::nullopt;
+        tah[i] = uint8_t(n);
+    }
+    return tah;
+}
+
+// ---- CSV ----
+
+QByteArrayView Orez(QByteArrayView pole) {
+    qsizetype a = 0, b = pole.size();
+    while (a < b && (pole[a] == ' ' || pole[a] == '\t'))
+        ++a;
+    while (b > a && (pole[b - 1] == ' ' || pole[b - 1] == '\t'))
+        --b;
+    return pole.sliced(a, b - a);
+}
+
+// A whole number of at most nine digits and nothing else; nothing for any other text.
+std::optional<int> Cele_Cislo(QByteArrayView pole) {
+    const QByteArrayView text = Orez(pole);
+    if (text.isEmpty() || text.size() > 9)
+        return std::nullopt;
+    int n = 0;
+    for (const char c : text) {
+        if (c < '0' || c > '9')
+            return std::nullopt;
+        n = n * 10 + (c - '0');
+    }
+    return n;
+}
+
+QString Ukazka(QByteArrayView pole) {
+    QString text = Vb::Z_1250(pole.first(std::min<qsizetype>(24, pole.size())).toByteArray());
+    if (pole.size() > 24)
+        text += u"…"_qs;
+    return u"\""_qs + text + u"\""_qs;
+}
+
+} // namespace
+
+Import_Vysledek Importuj_Dbf(const QByteArray& bajty, const Prubeh& prubeh) {
+    Import_Vysledek vysledek;
+    const qsizetype delka = bajty.size();
+    Sledovani_Prubehu sledovani(prubeh, delka - Zacatek_Dbf - 1);
+    QByteArray text_roku;
+    bool je_rok = false;
+    for (qsizetype o = Zacatek_Dbf; o < delka; o += Delka_Zaznamu_Dbf) {
+        sledovani.Krok(o - Zacatek_Dbf);
+        // The end-of-file byte of the table stands alone after the last record.
+        if (o == delka - 1)
+            break;
+        const QByteArray text = bajty.mid(o + 1, 4);
+        const int64_t rok = Pole_Dbf(bajty, o + 1, 4);
+        if (rok == 0)
+            continue;
+        if (delka - o < Delka_Zaznamu_Dbf)
+            return Chyba(u"Soubor s tahy je neúplný: poslední záznam (rok "_qs + Cislo(rok) + u") je zkrácený."_qs);
+        if (rok < 1 || rok > 9999)
+            return Chyba(u"V souboru s tahy je rok "_qs + Cislo(rok) + u" mimo rozsah 1 až 9999."_qs);
+        if (!je_rok || text != text_roku) {
+            if (vysledek.Pocet_Let() >= Nejvic_Let)
+                return Chyba(u"V souboru s tahy je příliš mnoho roků."_qs);
+            je_rok = true;
+            text_roku = text;
+            vysledek.Roky.emplace_back().Rok = int16_t(rok);
+        }
+        const int64_t tyden = Pole_Dbf(bajty, o + 5, 2);
+        if (tyden > 53)
+            return Chyba(u"V souboru s tahy má rok "_qs + Cislo(rok) + u" týden "_qs + Cislo(tyden) +
+                         u", rok ale má jen týdny 1 až 53."_qs);
+        // The source's week 36 of 1968 is known to be wrong and must stay out of the archive.
+        if (tyden < 1 || Pole_Dbf(bajty, o + 7, 2) <= 0 || (rok == 1968 && tyden == 36))
+            continue;
+        const auto tah1 = Tah_Dbf(bajty, o + 7);
+        const bool je_tah2 = Pole_Dbf(bajty, o + 21, 2) > 0;
+        const auto tah2 = je_tah2 ? Tah_Dbf(bajty, o + 21) : std::optional<Tah>(Tah{});
+        if (!tah1 || !tah2)
+            return Chyba(u"V souboru s tahy je u roku "_qs + Cislo(rok) + u", týdne "_qs + Cislo(tyden) +
+                         u" číslo mimo rozsah 0 až 255."_qs);
+        Tyden_Zaznam& zaznam = vysledek.Roky.back().Tyden[int(tyden)];
+        zaznam.Je_Tah1 = Vb::Pravda;
+        zaznam.Tah1 = *tah1;
+        if (je_tah2) {
+            zaznam.Je_Tah2 = Vb::Pravda;
+            zaznam.Tah2 = *tah2;
+        }
+    }
+    sledovani.Krok(delka - Zacatek_Dbf - 1);
+    return vysledek;
+}
+
+Import_Vysledek Importuj_Csv(const QByteArray& bajty, Den den, const Prubeh& prubeh) {
+    const int kod_dne = den == Den::Streda ? 3 : 7;
+    std::map<int, Rok_Zaznam> roky;
+    Sledovani_Prubehu sledovani(prubeh, bajty.size());
+    bool hlavicka = true;
+    int cislo_radku = 0;
+    std::vector<QByteArrayView> pole;
+    for (qsizetype o = 0; o < bajty.size();) {
+        qsizetype konec = bajty.indexOf('\n', o);
+        if (konec < 0)
+            konec = bajty.size();
+        QByteArrayView radek = QByteArrayView(bajty).sliced(o, konec - o);
+        o = konec + 1;
+        ++cislo_radku;
+        sledovani.Krok(o);
+        if (radek.endsWith('\r'))
+            radek.chop(1);
+        if (Orez(radek).isEmpty())
+            continue;
+        pole.clear();
+        for (qsizetype a = 0;;) {
+            const qsizetype b = radek.indexOf(';', a);
+            pole.push_back(radek.sliced(a, (b < 0 ? radek.size() : b) - a));
+            if (b < 0)
+                break;
+            a = b + 1;
+        }
+        // The first line is the header of the columns, unless the file comes without one.
+        if (hlavicka) {
+            hlavicka = false;
+            if (pole.size() < 2 || !Cele_Cislo(pole[1]))
+                continue;
+        }
+        const auto vadny = [cislo_radku](const QString& co) {
+            return Chyba(u"Chyba na řádku "_qs + Cislo(cislo_radku) + u" souboru s tahy: "_qs + co);
+        };
+        if (int(pole.size()) < Sloupcu_Csv)
+            return vadny(u"má "_qs + Cislo(pole.size()) + u" sloupců místo 18."_qs);
+        const auto rok = Cele_Cislo(pole[1]);
+        if (!rok)
+            return vadny(u"rok "_qs + Ukazka(pole[1]) + u" není číslo."_qs);
+        if (*rok < 1 || *rok > 9999)
+            return vadny(u"rok "_qs + Cislo(*rok) + u" je mimo rozsah 1 až 9999."_qs);
+        const auto tyden = Cele_Cislo(pole[2]);
+        if (!tyden)
+            return vadny(u"týden "_qs + Ukazka(pole[2]) + u" není číslo."_qs);
+        if (*tyden < 1 || *tyden > 53)
+            return vadny(u"týden "_qs + Cislo(*tyden) + u" je mimo rozsah 1 až 53."_qs);
+        const auto den_tahu = Cele_Cislo(pole[3]);
+        if (!den_tahu)
+            return vadny(u"den "_qs + Ukazka(pole[3]) + u" není číslo."_qs);
+        Tah tah1, tah2;
+        for (int i = 0; i < 14; ++i) {
+            const QByteArrayView text = pole[std::size_t(4 + i)];
+            // An empty cell is a number that was not drawn, as 0 is in the archive.
+            const auto n = Orez(text).isEmpty() ? std::optional<int>(0) : Cele_Cislo(text);
+            if (!n)
+                return vadny(u"číslo "_qs + Ukazka(text) + u" není číslo."_qs);
+            if (*n > 49)
+                return vadny(u"číslo "_qs + Cislo(*n) + u" je větší než 49."_qs);
+            (i < 7 ? tah1 : tah2)[i % 7 + 1] = uint8_t(*n);
+        }
+        if (*den_tahu != kod_dne)
+            continue;
+        Rok_Zaznam& zaznam_roku = roky[*rok];
+        zaznam_roku.Rok = int16_t(*rok);
+        if (tah1[1] == 0 || (*rok == 1968 && *tyden == 36))
+            continue;
+        // The newest line comes first; should a week stand twice, the first line holds.
+        Tyden_Zaznam& tyden_zaznam = zaznam_roku.Tyden[*tyden];
+        if (Vb::Je_Pravda(tyden_zaznam.Je_Tah1))
+            continue;
+        tyden_zaznam.Je_Tah1 = Vb::Pravda;
+        tyden_zaznam.Tah1 = tah1;
+        if (tah2[1] > 0) {
+            tyden_zaznam.Je_Tah2 = Vb::Pravda;
+            tyden_zaznam.Tah2 = tah2;
+        }
+    }
+    sledovani.Krok(bajty.size());
+    Import_Vysledek vysledek;
+    vysledek.Roky.reserve(roky.size() + 1);
+    for (auto& [rok, zaznam] : roky)
+        vysledek.Roky.push_back(zaznam);
+    return vysledek;
+}
+
+Vysledek Importuj_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QString& soubor_dbf,
+                       const QString& zaloha_tahu, int smazat_dbf, const Prubeh& prubeh) {
+    const QString zdroj = Spoj_Cestu(adresar, soubor_dbf);
+    const QString chybny_zdroj = u"Není soubor s tahy \""_qs +
+                                 soubor_dbf.left(std::max<qsizetype>(0, soubor_dbf.size() - 4)) +
+                                 u".dbf (.xls)\" nebo je v něm chyba."_qs;
+    if (archiv.Soubor_Tahu.isEmpty())
+        return Vysledek::Chyba(u"Není zvolen den tahů, import nelze provést."_qs);
+    const auto bajty = Nacti_Soubor(zdroj);
+    if (!bajty)
+        return Vysledek::Chyba(chybny_zdroj);
+
+    Import_Vysledek import;
+    if (soubor_dbf.endsWith(u".csv"_qs, Qt::CaseInsensitive)) {
+        const auto den = Den_Souboru_Tahu(archiv.Soubor_Tahu);
+        if (!den)
+            return Vysledek::Chyba(u"Ze jména souboru \""_qs + archiv.Soubor_Tahu + u"\" nelze poznat den tahů."_qs);
+        import = Importuj_Csv(*bajty, *den, prubeh);
+    } else {
+        import = Importuj_Dbf(*bajty, prubeh);
+    }
+    if (!import.Stav.Ok())
+        return import.Stav;
+    if (import.Pocet_Let() == 0) {
+        // An empty file is what a failed download leaves: it goes, so it is not taken again.
+        if (bajty->isEmpty())
+            QFile::remove(zdroj);
+        return Vysledek::Chyba(chybny_zdroj);
+    }
+
+    // The source is read before anything is backed up, so a bad source changes nothing on disk.
+    const QString zive = Spoj_Cestu(adresar, archiv.Soubor_Tahu);
+    bool zalohovano = false;
+    if (zaloha_tahu == u"1"_qs && QFile::exists(zive)) {
+        const Vysledek zaloha = Zaloha_Souboru(0, archiv, adresar, archiv.Soubor_Tahu);
+        if (!zaloha.Ok())
+            return zaloha;
+        zalohovano = true;
+    }
+    Archiv_Tahu nove;
+    nove.Pocet_Let = import.Pocet_Let();
+    nove.Pole_Tahu = std::move(import.Roky);
+    const Vysledek zapis = Uloz_Tahy(nove, adresar, archiv.Soubor_Tahu);
+    if (!zapis.Ok()) {
+        if (zalohovano)
+            QFile::rename(Spoj_Cestu(adresar, Jmeno_Zalohy(archiv.Soubor_Tahu)), zive);
+        return zapis;
+    }
+    archiv.Pole_Tahu = std::move(nove.Pole_Tahu);
+    archiv.Pocet_Let = nove.Pocet_Let;
+    if (smazat_dbf == 1)
+        QFile::remove(zdroj);
+    return Vysledek::Uspech();
+}

@@ -1,0 +1,36 @@
+#pragma once
+// Import of the operator's draw history into the archive of a draw day: the dBase tables that the
+// operator publishes (sportka-streda.dbf, sportka-nedele.dbf) and its CSV export of both days.
+// The readers work on bytes and touch nothing; Importuj_Tahy puts their result in place.
+
+#include "app/Prubeh.h"
+#include "app/Vysledek.h"
+#include "data/Archiv_Tahu.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <vector>
+
+// Year records as Pole_Tahu holds them (element 0 present and unused). On failure Stav carries
+// the message and Roky holds element 0 alone, so nothing half-built can reach the archive.
+struct Import_Vysledek {
+    std::vector<Rok_Zaznam> Roky = std::vector<Rok_Zaznam>(1);
+    Vysledek Stav;
+    int Pocet_Let() const { return int(Roky.size()) - 1; }
+};
+
+// The dBase table read by fixed positions: records of 35 bytes from byte 546 (one-based), a year
+// record added each time the year text changes, in the order of the file.
+Import_Vysledek Importuj_Dbf(const QByteArray& bajty, const Prubeh& prubeh = {});
+
+// The CSV export "datum;rok;tyden;den;" + 14 numbers, newest first; only rows of the given day
+// (den 3 Wednesday, 7 Sunday) are taken. One year record per year, in ascending years.
+Import_Vysledek Importuj_Csv(const QByteArray& bajty, Den den, const Prubeh& prubeh = {});
+
+// Rebuilds the archive of archiv.Soubor_Tahu from adresar/soubor_dbf (read as CSV when its name
+// ends in ".csv"). With zaloha_tahu "1" the old archive becomes its .zal first; with smazat_dbf 1
+// the source goes after a good import. Pole_Tahu and Pocet_Let change only when the new archive is
+// on disk; the flat lists are the caller's to rebuild.
+Vysledek Importuj_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QString& soubor_dbf,
+                       const QString& zaloha_tahu, int smazat_dbf, const Prubeh& prubeh = {});

@@ -1,0 +1,30 @@
+// Any bytes as a tip file, of the current and of the old format. What the reader takes must come
+// back byte for byte from the writer, and the conversion must stay inside its record.
+#include "data/Soubor_Tipu.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    const QByteArray bajty = QByteArray::fromRawData(reinterpret_cast<const char*>(data), qsizetype(size));
+
+    const auto zaznam = std::make_unique<Zaznam_Tipu>(Cti_Zaznam_Tipu(bajty));
+    const QByteArray zapsano = Zapis_Zaznam_Tipu(*zaznam);
+    if (zapsano.size() < Delka_Zaznamu_Tipu || Cti_Zaznam_Tipu(zapsano) != *zaznam)
+        std::abort();
+    // A whole record with a sound length reads and writes back as it was, less any tail.
+    if (bajty.size() >= Delka_Zaznamu_Tipu) {
+        const auto bajt = [&](int i) { return uint16_t(uint8_t(bajty[i])); };
+        const int delka = int16_t(bajt(Posun_Delky_Seznamu) | bajt(Posun_Delky_Seznamu + 1) << 8);
+        if (delka >= 0 && bajty.size() >= Delka_Zaznamu_Tipu + delka && bajty.left(zapsano.size()) != zapsano)
+            std::abort();
+    }
+    Je_Stary_Format(QStringLiteral("x.tip"), zaznam->Pocet_Tipu);
+
+    const auto stary = std::make_unique<Stary_Zaznam_Tipu>(Cti_Stary_Zaznam_Tipu(bajty));
+    const auto novy = std::make_unique<Zaznam_Tipu>(Preved_Stary_Zaznam(*stary));
+    if (novy->Pocet_Tiketu < 0 || novy->Pocet_Tiketu > Max_Tiketu)
+        std::abort();
+    return 0;
+}
