@@ -1,36 +1,17 @@
+// Ticket arithmetic: money into tips and tickets, progress, list rows, number patterns, the grid and
+// its diagonals, hit tests on the ticket picture, and the history of one number.
+#include "Bajty.h"
 #include "app/pTikety.h"
 
 #include <QTest>
-
 #include <cmath>
 #include <map>
-
-namespace {
-
-template <class Pole> Pole Udelej(std::initializer_list<int> cisla) {
-    Pole p;
-    int i = 1;
-    for (int c : cisla)
-        p[i++] = uint8_t(c);
-    return p;
-}
-
-} // namespace
+#include <numeric>
 
 class Test_pTikety final : public QObject {
     Q_OBJECT
 
 private slots:
-    void Ti() {
-        pTikety p;
-        // tips, columns, tickets
-        for (auto [tipy, sloupcu, tikety] : {std::tuple{1, 10, 1}, {10, 10, 1}, {11, 10, 2}, {0, 10, 0}, {5, 0, 1}}) {
-            p.Pocet_Tipu_Vysledek = tipy;
-            p.Sloupcu_Na_Tiketu = sloupcu;
-            QCOMPARE(p.Ti(), double(tikety));
-        }
-    }
-
     void Penize_data() {
         QTest::addColumn<QList<double>>("vstup");  // sum, price of tip, price of ticket, fee
         QTest::addColumn<QList<double>>("vystup"); // tips, tickets, stored rest, Zbytek()
@@ -44,8 +25,7 @@ private slots:
         QTest::newRow("vynucenych 12 konci") << QList<double>{100, 10, 5, 0} << QList<double>{9, 1, 12, 5};
         QTest::newRow("na tip nestaci") << QList<double>{5, 20, 10, 0} << QList<double>{0, 0, 5, 5};
         QTest::newRow("poplatek nad castkou") << QList<double>{10, 20, 0, 30} << QList<double>{0, 0, -20, -20};
-        QTest::newRow("nulova cena") << QList<double>{100, 0, 5, 0} << QList<double>{0, 0, 100, 100};
-        QTest::newRow("zaporna cena") << QList<double>{100, -4, 0, 0} << QList<double>{0, 0, 100, 100};
+        QTest::newRow("zaporna cena") << QList<double>{100, -4, 5, 0} << QList<double>{0, 0, 100, 100};
     }
     void Penize() {
         QFETCH(QList<double>, vstup);
@@ -76,18 +56,15 @@ private slots:
         pTikety p;
         int pumpy = 0;
         p.Pumpa = [&] { ++pumpy; };
-        double celkem = 100, f = 0;
+        // A percentage is reported once, when it first grows; every call pumps events.
+        double celkem = 100, f = 0, sedm = 7, g = 0;
         QVERIFY(p.Procenta(50, 0, 100, celkem, 100, f));
         QVERIFY(!p.Procenta(50, 0, 100, celkem, 100, f));
         QVERIFY(!p.Procenta(10, 0, 100, celkem, 100, f));
         QCOMPARE(f, 50.0);
-        double sedm = 7, g = 0, nula = 0, h = 0;
-        QVERIFY(p.Procenta(3, 0, 7, sedm, 7, g));
-        QCOMPARE(g, 42.0);
-        QVERIFY(!p.Procenta(5, 0, 0, nula, 0, h)); // no total, no progress
-        QCOMPARE(pumpy, 5);
+        QVERIFY(p.Procenta(3, 0, 7, sedm, 7, g)); // 300 \ 7 is cut, not rounded
+        QCOMPARE(std::pair(g, pumpy), std::pair(42.0, 4));
 
-        QCOMPARE(pTikety::Faktorial(-3), 1.0);
         QCOMPARE(pTikety::Faktorial(20), 2432902008176640000.0);
         QVERIFY(std::isinf(pTikety::Faktorial(1'000'000'000)));
     }
@@ -98,19 +75,10 @@ private slots:
         QCOMPARE(std::pair(tiket, sloupec), std::pair(2, 1));
         pTikety::Zjisti_Tik_Slo(12, 12, tiket, sloupec); // no correction for a remainder of 0
         QCOMPARE(std::pair(tiket, sloupec), std::pair(2, 0));
-        pTikety::Zjisti_Tik_Slo(5, 0, tiket, sloupec);
-        QCOMPARE(tiket, 1);
-
         // druh, row, overall order (-1 untouched), column
-        for (auto [druh, radek, ocekavane_celkem, ocekavany_sloupec] : {std::tuple{1, 20, -1, 10},
-                                                                        {1, 10, -1, 10},
-                                                                        {1, 23, -1, 3},
-                                                                        {0, 13, 11, 1},
-                                                                        {0, 12, 10, 10},
-                                                                        {0, 35, 31, 1},
-                                                                        {7, 99, -1, 10}}) {
+        for (auto [druh, radek, ocekavane_celkem, ocekavany_sloupec] :
+             {std::tuple{1, 20, -1, 10}, {1, 23, -1, 3}, {0, 13, 11, 1}, {0, 12, 10, 10}, {0, 35, 31, 1}}) {
             celkem = -1;
-            sloupec = 0;
             pTikety::Poradi_Tip_CelkSlo(druh, radek, celkem, sloupec);
             QCOMPARE(std::pair(celkem, sloupec), std::pair(ocekavane_celkem, ocekavany_sloupec));
         }
@@ -119,59 +87,37 @@ private slots:
     void Jmena_a_poradi() {
         QCOMPARE(pTikety::Dej_Jmeno_Souboru(2, u"C:\\a\\b.c.tip"_qs), u"b"_qs);
         QCOMPARE(pTikety::Dej_Jmeno_Souboru(1, u"C:\\a\\b.c.tip"_qs), u"b.c.tip"_qs);
-        QCOMPARE(pTikety::Dej_Jmeno_Souboru(2, u"/home/hrac/tipy.tip"_qs), u"tipy"_qs);
-
         QVERIFY(pTikety::Setridit(u"3 5 4"_qs));
         QVERIFY(!pTikety::Setridit(u"3 3 4"_qs));
-        QVERIFY(!pTikety::Setridit(u""_qs));
         QVERIFY(pTikety::Setridit(u"  7 x 0 3"_qs));        // words and zeros are skipped
         QVERIFY(!pTikety::Setridit(u"9 10"_qs));            // as numbers, not as text
         QVERIFY(!pTikety::Setridit(u"1 2 3 4 5 6 7 1"_qs)); // an eighth number is not read
-        QVERIFY(pTikety::Setridit(u"300 2"_qs));
     }
 
-    void Vzory_cisel() {
-        QVERIFY(pTikety::Dvojice_Je(5, 6) && pTikety::Dvojice_Je(5, 4) && !pTikety::Dvojice_Je(5, 7));
-        for (auto [b, c] : {std::pair{6, 7}, {7, 6}, {4, 6}, {6, 4}, {3, 4}, {4, 3}})
-            QVERIFY(pTikety::Trojice_Je(5, b, c));
-        for (auto [b, c] : {std::pair{6, 8}, {5, 6}, {3, 7}})
-            QVERIFY(!pTikety::Trojice_Je(5, b, c));
-
-        const Tip dvojice = Udelej<Tip>({1, 6, 11, 2, 30, 40}); // 1-6 and 6-11
-        QVERIFY(pTikety::Cisla_Pod_Sebou(2, 1, dvojice));
-        QVERIFY(!pTikety::Cisla_Pod_Sebou(2, 2, dvojice));
-        // On a sorted tip only the shape a, a+5, a+10 counts as a triple.
-        const Tip setrideny = Udelej<Tip>({1, 6, 11, 20, 30, 40});
-        QVERIFY(pTikety::Cisla_Pod_Sebou(3, 0, setrideny));
-        QVERIFY(!pTikety::Cisla_Pod_Sebou(3, 1, setrideny));
-        QVERIFY(pTikety::Cisla_Pod_Sebou(3, 0, Udelej<Tip>({11, 16, 6, 40, 41, 42})));
-        QVERIFY(pTikety::Cisla_Pod_Sebou(3, 0, Udelej<Tip>({21, 31, 11, 40, 41, 42})));
-        // The same column read upwards is not among the shapes.
-        QVERIFY(!pTikety::Cisla_Pod_Sebou(3, 0, Udelej<Tip>({11, 6, 1, 40, 41, 42})));
-        QVERIFY(!pTikety::Cisla_Pod_Sebou(4, -1, setrideny));
-    }
-
-    void Mrizka() {
-        Pole_Od_1<int, 5> s;
-        Pole_Od_1<int, 10> r;
-        for (int c = 0; c <= 50; ++c) {
-            pTikety::Tip_Slo_Poc_Cis(c, s);
-            pTikety::Tip_Rad_Poc_Cis(c, r);
+    void Cisla_pod_sebou() {
+        const Tip dvojice = Cisla<Tip>({1, 6, 11, 2, 30, 40}); // 1-6 and 6-11
+        QVERIFY(pTikety::Cisla_Pod_Sebou(2, 1, dvojice) && !pTikety::Cisla_Pod_Sebou(2, 2, dvojice));
+        // The five shapes of a triple; on a sorted tip only the second (a, a+5, a+10) can fire.
+        for (const Tip& trojice : {Cisla<Tip>({11, 16, 6, 40, 41, 42}), Cisla<Tip>({1, 6, 11, 20, 30, 40}),
+                                   Cisla<Tip>({11, 16, 1, 40, 41, 42}), Cisla<Tip>({11, 21, 6, 40, 41, 42}),
+                                   Cisla<Tip>({21, 31, 11, 40, 41, 42})}) {
+            QVERIFY(pTikety::Cisla_Pod_Sebou(3, 0, trojice));
+            QVERIFY(!pTikety::Cisla_Pod_Sebou(3, 1, trojice));
         }
-        QCOMPARE(s, (Pole_Od_1<int, 5>{{10, 10, 10, 10, 9}}));
-        QCOMPARE(r, (Pole_Od_1<int, 10>{{5, 5, 5, 5, 5, 5, 5, 5, 5, 4}}));
+        // The same column read upwards is not among the shapes.
+        QVERIFY(!pTikety::Cisla_Pod_Sebou(3, 0, Cisla<Tip>({11, 6, 1, 40, 41, 42})));
+    }
 
+    void Mrizka_a_uhlopricky() {
         // number, row, column (zero-based)
         for (auto [cislo, rad, sloup] : {std::tuple{1, 0, 0}, {5, 0, 4}, {6, 1, 0}, {49, 9, 3}}) {
-            int r0 = -9, s0 = -9;
-            pTikety::Dej_Rad_Sloup(cislo, r0, s0);
-            QCOMPARE(std::pair(r0, s0), std::pair(rad, sloup));
+            int r = -1, s = -1;
+            pTikety::Dej_Rad_Sloup(cislo, r, s);
+            QCOMPARE(std::pair(r, s), std::pair(rad, sloup));
         }
-    }
 
-    void Uhlopricky() {
-        // Each diagonal must be a run of grid cells one row down and one column sideways, of the
-        // lengths of the ticket, and the corner numbers stand on none.
+        // Each diagonal is a run of grid cells one row down and one column sideways, of the lengths
+        // of the ticket, and the corner numbers stand on none.
         for (bool zleva : {true, false}) {
             const QList<int> delky =
                 zleva ? QList<int>{2, 3, 4, 5, 5, 5, 5, 5, 4, 4, 3, 2} : QList<int>{2, 3, 4, 5, 5, 5, 5, 5, 5, 4, 3, 2};
@@ -180,21 +126,17 @@ private slots:
             for (int c = 0; c <= 50; ++c) {
                 Pole_Od_1<int, 12> k;
                 zleva ? pTikety::Tip_Kriz_LevDoPrav(c, k) : pTikety::Tip_Kriz_PravDoLev(c, k);
-                int soucet = 0;
                 for (int u = 1; u <= 12; ++u)
-                    if (k[u] != 0) {
+                    for (int n = 0; n < k[u]; ++n)
                         clenove[u].append(c);
-                        soucet += k[u];
-                    }
-                QCOMPARE(soucet, (c >= 1 && c <= 49 && !mimo.contains(c)) ? 1 : 0);
+                QCOMPARE(std::accumulate(k.begin(), k.end(), 0), (c >= 1 && c <= 49 && !mimo.contains(c)) ? 1 : 0);
             }
             for (int u = 1; u <= 12; ++u) {
-                const QList<int>& cl = clenove[u];
-                QCOMPARE(cl.size(), delky[u - 1]);
-                for (qsizetype i = 1; i < cl.size(); ++i) {
+                QCOMPARE(clenove[u].size(), delky[u - 1]);
+                for (qsizetype i = 1; i < clenove[u].size(); ++i) {
                     int r0, s0, r1, s1;
-                    pTikety::Dej_Rad_Sloup(cl[i - 1], r0, s0);
-                    pTikety::Dej_Rad_Sloup(cl[i], r1, s1);
+                    pTikety::Dej_Rad_Sloup(clenove[u][i - 1], r0, s0);
+                    pTikety::Dej_Rad_Sloup(clenove[u][i], r1, s1);
                     QCOMPARE(std::pair(r1, s1), std::pair(r0 + 1, s0 + (zleva ? 1 : -1)));
                 }
             }
@@ -203,13 +145,12 @@ private slots:
 
     void Body_na_obrazku() {
         pTikety p;
-        // x, y, number, row and column found
+        // x, y, number, row and column found; both ends of a band count
         for (auto [x, y, cislo, radek, sloupec] : {std::tuple{70.0, 75.0, 1, 1, 1},
                                                    {1710.0, 3450.0, 50, 10, 5},
                                                    {765.0, 1050.0, 13, 3, 3},
                                                    {345.5, 75.0, 0, 1, 0},
-                                                   {100.0, 350.0, 0, 0, 1},
-                                                   {-1.0, 99999.0, 0, 0, 0}}) {
+                                                   {100.0, 350.0, 0, 0, 1}}) {
             QCOMPARE(int(p.Cislo_Ve_Sloupci(x, y)), cislo);
             QCOMPARE(std::pair(p.Radek_Mys, p.Sloupec_Mys), std::pair(radek, sloupec));
         }
@@ -217,53 +158,41 @@ private slots:
         for (auto [x, y, predtim, volba] : {std::tuple{60.0, 240.0, 0, 1},
                                             {1720.0, 520.0, 0, 3},
                                             {100.0, 1450.0, 0, 4},
-                                            {100.0, 1600.0, 0, 14},
-                                            {1500.0, 1800.0, 0, 15},
                                             {1000.0, 2800.0, 0, 13},
                                             {420.0, 240.0, 0, 0},
-                                            {5000.0, 5000.0, 7, 7},
                                             {380.0, 700.0, 2, 2}}) {
             int v = predtim;
             bool nalezeno = !predtim;
             pTikety::Volba_Slosovani_ATD(x, y, v, nalezeno);
-            QCOMPARE(v, volba);
-            QCOMPARE(nalezeno, volba != 0);
+            QCOMPARE(std::pair(v, nalezeno), std::pair(volba, volba != 0));
         }
     }
 
     void Analyza_cisla() {
         // Index 0 is unused; the newest draw is last. 7 in the supplementary place must not count.
-        const std::vector<Tah> tahy_1 = {
-            Tah{},
-            Udelej<Tah>({7, 1, 2, 3, 4, 5, 6}),
-            Udelej<Tah>({1, 2, 3, 4, 5, 7, 8}),
-            Udelej<Tah>({1, 2, 3, 4, 5, 6, 8}),
-            Udelej<Tah>({1, 2, 3, 4, 5, 6, 7}),
-            Udelej<Tah>({7, 12, 13, 14, 15, 16, 9}),
-        };
-        const std::vector<Tah> tahy_2 = {Tah{}, Udelej<Tah>({1, 2, 3, 4, 5, 7, 8}), Udelej<Tah>({1, 2, 3, 4, 5, 6, 9}),
-                                         Udelej<Tah>({1, 2, 3, 4, 5, 6, 9})};
+        const auto T = [](std::initializer_list<int> c) { return Cisla<Tah>(c); };
+        const std::vector<Tah> tahy_1 = {Tah{},
+                                         T({7, 1, 2, 3, 4, 5, 6}),
+                                         T({1, 2, 3, 4, 5, 7, 8}),
+                                         T({1, 2, 3, 4, 5, 6, 8}),
+                                         T({1, 2, 3, 4, 5, 6, 7}),
+                                         T({7, 12, 13, 14, 15, 16, 9})};
+        const std::vector<Tah> tahy_2 = {Tah{}, T({1, 2, 3, 4, 5, 7, 8}), T({1, 2, 3, 4, 5, 6, 9}),
+                                         T({1, 2, 3, 4, 5, 6, 9})};
         pTikety p;
         int pumpy = 0;
         p.Pumpa = [&] { ++pumpy; };
-        QString posledni_1 = u"x"_qs, posledni_2 = u"x"_qs, pocet_1 = u"x"_qs, pocet_2 = u"x"_qs;
-
-        const Vysledek chyba = p.Analyzuj_Cislo(7, 0, tahy_1, tahy_2, posledni_1, posledni_2, pocet_1, pocet_2);
-        QCOMPARE(chyba.Zprava, u"Pro analýzu v tazích, nastavte počet týdnů v \"Nastavení - TiP\""_qs);
+        QString posledni_1 = u"x"_qs, posledni_2, pocet_1, pocet_2;
+        QCOMPARE(p.Analyzuj_Cislo(7, 0, tahy_1, tahy_2, posledni_1, posledni_2, pocet_1, pocet_2).Zprava,
+                 u"Pro analýzu v tazích, nastavte počet týdnů v \"Nastavení - TiP\""_qs);
         QCOMPARE(posledni_1, u"x"_qs);
-
-        QVERIFY(p.Analyzuj_Cislo(0, 5, tahy_1, tahy_2, posledni_1, posledni_2, pocet_1, pocet_2).Ok());
-        QVERIFY(posledni_1.isEmpty() && posledni_2.isEmpty() && pocet_1.isEmpty() && pocet_2.isEmpty());
 
         // Three weeks read four draws: indexes 5 down to 2.
         QVERIFY(p.Analyzuj_Cislo(7, 3, tahy_1, tahy_2, posledni_1, posledni_2, pocet_1, pocet_2).Ok());
         QCOMPARE(QStringList({pocet_1, posledni_1, pocet_2, posledni_2}),
                  QStringList({u"2"_qs, u"1"_qs, u"1"_qs, u"3"_qs}));
         QCOMPARE(pumpy, 4 + 3);
-
         // More weeks than draws stop at the first draw.
-        QVERIFY(p.Analyzuj_Cislo(7, 400, tahy_1, tahy_2, posledni_1, posledni_2, pocet_1, pocet_2).Ok());
-        QCOMPARE(pocet_1, u"3"_qs);
         QVERIFY(p.Analyzuj_Cislo(6, 400, tahy_1, {}, posledni_1, posledni_2, pocet_1, pocet_2).Ok());
         QCOMPARE(QStringList({pocet_1, posledni_1, pocet_2}), QStringList({u"2"_qs, u"2"_qs, QString()}));
     }
