@@ -1,25 +1,12 @@
 // ErrorFile.txt and _Prehled.txt: their lines byte for byte in code page 1250, and the stop box.
 #include "Bajty.h"
-#include "app/Dialogy.h"
+#include "Dialogy_Testu.h"
 #include "data/Chyby_A_Prehled.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
-namespace {
-
-// Remembers the message boxes instead of showing them: icon, title and text joined by "|".
-class Zaznam_Dialogu final : public Dialogy {
-public:
-    QStringList Okna;
-    void Zprava(const QString& text) override { Okna << text; }
-    void Okno_Zpravy(Ikona ikona, const QString& titulek, const QString& text) override {
-        Okna << QString::number(int(ikona)) + u'|' + titulek + u'|' + text;
-    }
-};
-
-} // namespace
 
 class Test_Chyby_A_Prehled final : public QObject {
     Q_OBJECT
@@ -27,7 +14,7 @@ class Test_Chyby_A_Prehled final : public QObject {
 private slots:
     void Zprava_O_Chybe() {
         QTemporaryDir dir;
-        Zaznam_Dialogu dialogy;
+        Dialogy_Testu dialogy;
         const QString cesta = dir.filePath(u"ErrorFile.txt"_qs);
         QVERIFY(Zapis_Chybu(dir.path(), u"Vyh_Tahy"_qs, u"12"_qs, u"Dělení nulou"_qs, &dialogy).Ok());
         // Octal escapes, so that no letter after a byte of code page 1250 is taken for a digit.

@@ -1,0 +1,50 @@
+#pragma once
+// The session: all working data of one run of Tombi. main owns the one instance and hands it to
+// every window, which reads and writes its members directly; tests make their own. The seams
+// (clock, dialogs, the user's settings store) are set by whoever makes the session.
+
+#include "app/Random.h"
+#include "app/pTikety.h"
+#include "data/Archiv_Tahu.h"
+#include "data/Nastaveni.h"
+#include "data/Soubor_Tipu.h"
+
+#include <QString>
+
+class Dialogy;
+class Hodiny;
+class QSettings;
+
+struct Relace {
+    // Seams.
+    Hodiny* Cas = nullptr;
+    Dialogy* Dialog = nullptr;
+    QSettings* Registr = nullptr; // holds Pws
+
+    QString Cesta_Programu;    // the program's directory: tombi.cfg and, by default, all data
+    QString Verze;             // "major.minor"
+    QString Soubor_Tahu_Dbf;   // FTP_Data1 or FTP_Data2 of the chosen day
+    QString Dalsi_Tah;         // date of the next draw, worked out at start; empty on a Wednesday
+    int Den_V_Tydnu = 0;       // weekday at start, 1 Sunday .. 7 Saturday
+    Tip Aktualni_Tip;          // the tip under test or shown
+    QString Obrazek_Pozadi;    // file name of the background picture
+
+    // Who is open; set by the window on load, cleared on unload.
+    bool Formular_Otevren_Generuj = false;
+    bool Formular_Otevren_Analyza = false;
+    bool Formular_Otevren_Tipy = false;
+    bool Formular_Otevren_Tahy = false;
+
+    // Even and odd numbers of the picked list (Spocitej_Suda_Licha).
+    int Pocet_Sudych = 0;
+    int Pocet_Lichych = 0;
+
+    Archiv_Tahu Archiv;
+    Stav_Tipu Tipy;
+    Nastaveni_Zaznam Nastaveni;
+    pTikety Tikety;
+    ::Random Random;
+
+    // The data directory, Adresare[0].
+    const QString& Adresar_Dat() const { return Nastaveni.Adresare[0]; }
+};

@@ -1,0 +1,59 @@
+#pragma once
+// The small procedures that every window calls and that need no window: numbers of a tip, the
+// even/odd count of the picked list, file-name proposals, the text of the tips, the next draw
+// date, the switch of draw day over the archive, the wait with the event pump, and the key filter.
+
+#include "app/Relace.h"
+#include "app/Vysledek.h"
+#include "data/Archiv_Tahu.h"
+
+#include <QDate>
+#include <QString>
+
+#include <functional>
+
+namespace modTombi {
+
+bool Je_Sude(int x);
+void Vymen(uint8_t& a, uint8_t& b);
+// Exchange sort ascending over positions od..do_ of the tip.
+void Setrid_Tip(Tip& tip, int od, int do_);
+// Counts the even and odd numbers of a blank-separated text into Pocet_Sudych and Pocet_Lichych,
+// skipping its first token; an empty text clears both.
+void Spocitej_Suda_Licha(Relace& relace, const QString& text);
+
+// Today as six digits: year, month, day, two digits each ("261122").
+QString Datum_Soubor(const QDate& dnes);
+// A proposed tip file name: "S_" + date + "_" + pocet with a bettors' list loaded, otherwise
+// date + "_" + pocet; only single-byte characters are kept and blanks dropped.
+QString Navrh_Jmena(const QDate& dnes, int pocet, bool seznam_nacten);
+// The tips of the store as text, ticket by ticket (the print of the tip list).
+QString Otevreny_Tip_Text(const Zaznam_Tipu& tipy);
+
+// The weekday as the Basic counts it: 1 Sunday .. 7 Saturday.
+int Den_V_Tydnu(const QDate& datum);
+// The date of the next draw as text (d.m.yyyy), empty on a Wednesday.
+QString Dalsi_Tah(const QDate& dnes);
+// Monday, Tuesday and Wednesday choose the Wednesday archive, the other days the Sunday one.
+Den Den_Podle_Tydne(int den_v_tydnu);
+
+// The switch of draw day over the session's data: Den_Tahu, Soubor_Tahu_Dbf, the archive's file
+// and first years, the load, the counts in pTikety and the flat lists. The message of a failed
+// load is returned for the caller to show; the session is then without draws.
+Vysledek Prepni_Den(Relace& relace, Den den);
+
+// The label of lblSoubor_Tipu: "" for 0, "1 tip", "3 tipy", "5 tipů".
+QString Text_Poctu_Tipu(int pocet);
+
+// Waits `sekundy` by the clock's timer, letting events run through `pumpa` on every round. Over
+// midnight the timer falls back; the start is then lowered by 20864 once and the wait ends.
+void Cekej(const Hodiny& hodiny, double sekundy, const std::function<void()>& pumpa);
+
+// Passes a key only if its code lies between the codes of od and do_, or is backspace (8);
+// otherwise gives 0.
+int Filtr_Klavesy(int klavesa, QChar od, QChar do_);
+
+// The help context of a window by its key ("Anal", "Gener", ...); 0 for an unknown key.
+int Napoveda(const QString& klic);
+
+} // namespace modTombi
