@@ -9,7 +9,6 @@
 
 #include <QDate>
 #include <QString>
-
 #include <functional>
 
 namespace modTombi {
@@ -27,7 +26,12 @@ QString Datum_Soubor(const QDate& dnes);
 // A proposed tip file name: "S_" + date + "_" + pocet with a bettors' list loaded, otherwise
 // date + "_" + pocet; only single-byte characters are kept and blanks dropped.
 QString Navrh_Jmena(const QDate& dnes, int pocet, bool seznam_nacten);
-// The tips of the store as text, ticket by ticket (the print of the tip list).
+// The characters of the text that code page 1250 holds in one byte, blanks left out: what a file
+// name proposed by the program may carry.
+QString Jen_Jednobajtove(const QString& text);
+// The tips of the store as text, ticket by ticket (the print of the tip list): a head line
+// "číslo tiketu - " + number, then one line a tip, an empty line after each ticket; lines end with
+// "\n".
 QString Otevreny_Tip_Text(const Zaznam_Tipu& tipy);
 
 // The weekday as the Basic counts it: 1 Sunday .. 7 Saturday.
@@ -45,15 +49,15 @@ Vysledek Prepni_Den(Relace& relace, Den den);
 // The label of lblSoubor_Tipu: "" for 0, "1 tip", "3 tipy", "5 tipů".
 QString Text_Poctu_Tipu(int pocet);
 
-// Waits `sekundy` by the clock's timer, letting events run through `pumpa` on every round. Over
-// midnight the timer falls back; the start is then lowered by 20864 once and the wait ends.
+// Waits `sekundy` by the clock's timer, letting events run through `pumpa` (if any) on every round.
+// Over midnight the timer falls back; the wait then ends at once.
 void Cekej(const Hodiny& hodiny, double sekundy, const std::function<void()>& pumpa);
 
 // Passes a key only if its code lies between the codes of od and do_, or is backspace (8);
 // otherwise gives 0.
 int Filtr_Klavesy(int klavesa, QChar od, QChar do_);
 
-// The help context of a window by its key ("Anal", "Gener", ...); 0 for an unknown key.
+// The help context of a window by its key: "Anal" 1, "Gener" 2, ... "Heslo" 12; 0 for an unknown key.
 int Napoveda(const QString& klic);
 
 } // namespace modTombi

@@ -1,0 +1,30 @@
+#pragma once
+// Marks on the picture of a ticket column: crosses on the numbers of a tip, crosses and frames on
+// the drawn numbers. Positions and sizes are twips, as on the paper ticket; the one conversion to
+// pixels takes the resolution of the surface drawn on.
+
+#include <QColor>
+
+class QPaintDevice;
+class QPainter;
+
+namespace frmKresleni {
+
+// The picture of one ticket column: 5 x 10 cells of 347 twips and the offset of the first cell's mark.
+constexpr double Sirka_Sloupce_Twipy = 5 * 347 + 120;
+constexpr double Vyska_Sloupce_Twipy = 10 * 347 + 130;
+
+double Pixely(double twipy, const QPaintDevice& plocha);
+double Pixely_Y(double twipy, const QPaintDevice& plocha);
+
+// The classic 16 colours: 0 black, 1 navy ... 14 yellow, 15 white. Other indexes wrap around.
+QColor Barva_Palety(int index);
+
+// A cross of 150 x 150 twips in the cell of the number (1..49; other numbers draw nothing),
+// with a pen of `tloustka` pixels in the palette colour `barva`.
+void Nakresli_Krizek(QPainter& kreslic, int cislo, int barva, int tloustka);
+
+// A mark of 200 x 200 twips with its top left at x, y: druh 1 a cross, druh 2 a frame.
+void Nakresli_Ramecek(QPainter& kreslic, double x, double y, const QColor& barva, int druh, int tloustka);
+
+} // namespace frmKresleni

@@ -1,0 +1,56 @@
+#include "app/frmOvladani.h"
+
+#include "app/modTombi.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTimer>
+
+namespace frmOvladani {
+
+namespace {
+
+// Selects after the event is done: the click that gave the focus would otherwise place the
+// cursor and undo the selection.
+class Vyber_Pri_Vstupu final : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* objekt, QEvent* udalost) override {
+        if (udalost->type() == QEvent::FocusIn)
+            if (auto* pole = qobject_cast<QLineEdit*>(objekt))
+                QTimer::singleShot(0, pole, [pole] { Vyber_Text(pole); });
+        return false;
+    }
+};
+
+} // namespace
+
+void Vyber_Text(QLineEdit* pole) {
+    if (pole != nullptr)
+        pole->selectAll();
+}
+
+void Vybirej_Pri_Vstupu(QLineEdit* pole) {
+    if (pole != nullptr)
+        pole->installEventFilter(new Vyber_Pri_Vstupu(pole));
+}
+
+void Zobraz_Suda_Licha(QWidget* okno, int suda, int licha) {
+    if (okno == nullptr)
+        return;
+    const bool prazdne = suda == 0 && licha == 0;
+    if (auto* sude = okno->findChild<QLabel*>(u"lblSude"_qs))
+        sude->setText(prazdne ? QString() : QString::number(suda));
+    if (auto* liche = okno->findChild<QLabel*>(u"lblLiche"_qs))
+        liche->setText(prazdne ? QString() : QString::number(licha));
+}
+
+void Napoveda(QWidget* okno, const QString& klic) {
+    if (okno != nullptr)
+        okno->setProperty("Napoveda", modTombi::Napoveda(klic));
+}
+
+} // namespace frmOvladani

@@ -1,0 +1,184 @@
+#include "app/modTombi.h"
+
+#include "app/Hodiny.h"
+#include "app/Vb.h"
+
+#include <QStringList>
+#include <algorithm>
+#include <array>
+
+namespace modTombi {
+
+namespace {
+
+// Every character that code page 1250 holds in one byte: the decoded 256 byte values.
+const QString& Znaky_1250() {
+    static const QString znaky = [] {
+        QByteArray bajty(256, '\0');
+        for (int i = 0; i < 256; ++i)
+            bajty[i] = char(i);
+        return Vb::Z_1250(bajty);
+    }();
+    return znaky;
+}
+
+} // namespace
+
+bool Je_Sude(int x) {
+    return x % 2 == 0;
+}
+
+void Vymen(uint8_t& a, uint8_t& b) {
+    std::swap(a, b);
+}
+
+void Setrid_Tip(Tip& tip, int od, int do_) {
+    od = std::max(od, 1);
+    do_ = std::min(do_, Tip::Pocet());
+    for (int i = od; i < do_; ++i)
+        for (int j = i + 1; j <= do_; ++j)
+            if (tip[i] > tip[j])
+                Vymen(tip[i], tip[j]);
+}
+
+void Spocitej_Suda_Licha(Relace& relace, const QString& text) {
+    relace.Pocet_Sudych = 0;
+    relace.Pocet_Lichych = 0;
+    // The status text starts with a blank, so its first token is the empty one before it; a text
+    // without that blank loses its first number, as it always has. Words (a wheel's name) are no numbers.
+    const QStringList casti = text.split(u' ');
+    for (qsizetype i = 1; i < casti.size(); ++i) {
+        const double cislo = Vb::Val(casti[i]);
+        if (cislo <= 0)
+            continue;
+        if (Je_Sude(int(Vb::Int(cislo))))
+            ++relace.Pocet_Sudych;
+        else
+            ++relace.Pocet_Lichych;
+    }
+}
+
+QString Datum_Soubor(const QDate& dnes) {
+    return u"%1%2%3"_qs.arg(dnes.year() % 100, 2, 10, QChar(u'0'))
+        .arg(dnes.month(), 2, 10, QChar(u'0'))
+        .arg(dnes.day(), 2, 10, QChar(u'0'));
+}
+
+QString Jen_Jednobajtove(const QString& text) {
+    QString vysledek;
+    vysledek.reserve(text.size());
+    for (const QChar znak : text)
+        if (znak != u' ' && !znak.isSurrogate() && Znaky_1250().contains(znak))
+            vysledek += znak;
+    return vysledek;
+}
+
+QString Navrh_Jmena(const QDate& dnes, int pocet, bool seznam_nacten) {
+    // Str gives the count its leading blank; the filter takes it away again.
+    const QString jmeno = Datum_Soubor(dnes) + u'_' + Vb::Str(int64_t(pocet));
+    return Jen_Jednobajtove(seznam_nacten ? u"S_"_qs + jmeno : jmeno);
+}
+
+QString Otevreny_Tip_Text(const Zaznam_Tipu& tipy) {
+    // The text is printed in a proportional font, where a digit is as wide as two blanks. Every tip
+    // line is indented by four blanks, and a number gets five blanks before it if it has one digit
+    // and three if it has two: each number then ends seven blank widths after the one before, so the
+    // columns stand right-aligned. An empty cell is seven blanks, which keeps the columns in place.
+    static const QString Odsazeni = u"    "_qs;
+    static const QString Pred_Jednocifernym = u"     "_qs;
+    static const QString Pred_Dvoucifernym = u"   "_qs;
+
+    QString text;
+    const int pocet_tiketu = std::clamp<int>(tipy.Pocet_Tiketu, 0, Max_Tiketu);
+    for (int t = 1; t <= pocet_tiketu; ++t) {
+        const Tiket& tiket = tipy.Tikety[t];
+        text += u"číslo tiketu - "_qs + QString::number(tiket.Cislo_Tiketu) + u'\n';
+        for (const Tip& tip : tiket.Cisla) {
+            if (tip[1] == 0)
+                continue;
+            text += Odsazeni;
+            for (const uint8_t cislo : tip) {
+                if (cislo == 0)
+                    text += Pred_Jednocifernym + u"  "_qs;
+                else
+                    text += (cislo < 10 ? Pred_Jednocifernym : Pred_Dvoucifernym) + QString::number(cislo);
+            }
+            text += u'\n';
+        }
+        text += u'\n';
+    }
+    return text;
+}
+
+int Den_V_Tydnu(const QDate& datum) {
+    return datum.dayOfWeek() % 7 + 1;
+}
+
+QString Dalsi_Tah(const QDate& dnes) {
+    // Days to the next draw from Sunday (1) to Saturday (7); Wednesday has none of its own.
+    static constexpr std::array<int, 7> Dnu_Do_Tahu = {0, 2, 1, -1, 3, 2, 1};
+    const int den = Den_V_Tydnu(dnes);
+    const int dnu = Dnu_Do_Tahu[std::size_t(den - 1)];
+    if (dnu < 0)
+        return {};
+    return Vb::Format(dnes.addDays(dnu), u"d.m.yyyy");
+}
+
+Den Den_Podle_Tydne(int den_v_tydnu) {
+    return den_v_tydnu >= 2 && den_v_tydnu <= 4 ? Den::Streda : Den::Nedele;
+}
+
+Vysledek Prepni_Den(Relace& relace, Den den) {
+    relace.Tikety.Den_Tahu = uint8_t(den);
+    relace.Soubor_Tahu_Dbf = den == Den::Nedele ? relace.Nastaveni.FTP_Data2 : relace.Nastaveni.FTP_Data1;
+    Nastav_Den_Archivu(relace.Archiv, den);
+    const Vysledek nacteni = Nacti_Tahy(relace.Archiv, relace.Adresar_Dat(), relace.Archiv.Soubor_Tahu);
+    // A failed load has emptied the archive; the flat lists and counts follow it, so that no window
+    // goes on with the draws of the other day.
+    const auto [prvni, druhe] = Spocitej_Tahy(relace.Archiv);
+    relace.Tikety.Pocet_Tahu_1 = int16_t(prvni);
+    relace.Tikety.Pocet_Tahu_2 = int16_t(druhe);
+    Priprav_Seznamy_Tahu(relace.Archiv);
+    return nacteni;
+}
+
+QString Text_Poctu_Tipu(int pocet) {
+    if (pocet <= 0)
+        return {};
+    const QString cislo = QString::number(pocet);
+    if (pocet == 1)
+        return cislo + u" tip"_qs;
+    if (pocet <= 4)
+        return cislo + u" tipy"_qs;
+    return cislo + u" tipů"_qs;
+}
+
+void Cekej(const Hodiny& hodiny, double sekundy, const std::function<void()>& pumpa) {
+    const double zacatek = hodiny.Timer();
+    for (;;) {
+        if (pumpa)
+            pumpa();
+        const double ted = hodiny.Timer();
+        // The timer starts again from 0 at midnight; rather than count across it, the wait stops.
+        if (ted < zacatek || ted - zacatek >= sekundy)
+            return;
+    }
+}
+
+int Filtr_Klavesy(int klavesa, QChar od, QChar do_) {
+    constexpr int Backspace = 8;
+    if (klavesa == Backspace || (klavesa >= od.unicode() && klavesa <= do_.unicode()))
+        return klavesa;
+    return 0;
+}
+
+int Napoveda(const QString& klic) {
+    static const std::array<QString, 12> Klice = {
+        u"Anal"_qs,      u"Gener"_qs,     u"NastavPrg"_qs,        u"OProg"_qs,
+        u"Tahy"_qs,      u"Sezn"_qs,      u"TiskTik"_qs,          u"AnalVypis"_qs,
+        u"TahyVypis"_qs, u"TipyVypis"_qs, u"TipyVypisVlastni"_qs, u"Heslo"_qs};
+    const auto it = std::find(Klice.begin(), Klice.end(), klic);
+    return it == Klice.end() ? 0 : int(it - Klice.begin()) + 1;
+}
+
+} // namespace modTombi

@@ -1,0 +1,86 @@
+// Pictures of the program's windows for a person to look at. Each window is opened offscreen and
+// saved as a PNG into the folder that TOMBI_SNIMKY names (a temporary folder if it is unset);
+// a window that does not show or gives an empty picture fails the run. A new window is one more
+// entry in the list below.
+
+#include "Prostredi_Okna.h"
+#include "app/frmNapoveda.h"
+#include "app/frmNeniProcedura.h"
+#include "app/frmOProgramu.h"
+#include "app/frmTombi_uvod.h"
+#include "data/Soubory.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace {
+
+struct Snimek {
+    QString Jmeno;
+    std::function<QWidget*(QWidget* hlavni)> Otevri;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication aplikace(argc, argv);
+
+    // The main window behind the notices.
+    QWidget hlavni;
+    hlavni.setGeometry(40, 30, 720, 520);
+    hlavni.show();
+
+    const std::vector<Snimek> snimky{
+        {u"frmNeniProcedura"_qs,
+         [](QWidget* h) -> QWidget* {
+             return new frmNeniProcedura(u"Chybí soubor tahů  \"SpN_tahy.sez\"  v aktuálním adresáři."_qs, h);
+         }},
+        {u"frmNeniProcedura_dlouha"_qs,
+         [](QWidget* h) -> QWidget* {
+             return new frmNeniProcedura(u"Pro analýzu v tazích, nastavte počet týdnů v \"Nastavení - TiP\". "
+                                         u"Bez něj nelze zjistit, kdy číslo padlo naposledy ani kolikrát."_qs,
+                                         h);
+         }},
+        {u"frmTombi_uvod"_qs, [](QWidget*) -> QWidget* { return new frmTombi_uvod(QStringLiteral(TOMBI_VERZE)); }},
+        {u"frmNapoveda"_qs, [](QWidget*) -> QWidget* { return new frmNapoveda(u"index.html"_qs); }},
+        {u"frmOProgramu"_qs, [](QWidget*) -> QWidget* { return new frmOProgramu(QStringLiteral(TOMBI_VERZE)); }},
+        // The frame as a user meets it on a Thursday evening: the Sunday archive and a tip file open.
+        {u"frmMDITombi"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 26));
+             Uloz_Soubor(prostredi.Cesta(u"251126_24.tip"_qs), Soubor_Tipu(24));
+             prostredi.Spust();
+             prostredi.Otevri_Tipy(u"251126_24.tip"_qs);
+             prostredi.Okno->Nastav_Status(u" 3 11 19 27 36 44"_qs, u"6"_qs);
+             return prostredi.Okno.release();
+         }},
+    };
+
+    QTemporaryDir docasna;
+    QString slozka = qEnvironmentVariable("TOMBI_SNIMKY");
+    if (slozka.isEmpty())
+        slozka = docasna.path();
+    QDir().mkpath(slozka);
+
+    int chyby = 0;
+    for (const Snimek& snimek : snimky) {
+        std::unique_ptr<QWidget> okno(snimek.Otevri(&hlavni));
+        okno->show();
+        const bool ukazano = QTest::qWaitForWindowExposed(okno.get());
+        const QImage obraz = okno->grab().toImage();
+        const QString soubor = QDir(slozka).filePath(snimek.Jmeno + u".png"_qs);
+        if (!ukazano || obraz.isNull() || !obraz.save(soubor)) {
+            qWarning("%s: snímek se nepodařil", qPrintable(snimek.Jmeno));
+            ++chyby;
+        } else {
+            qInfo("%s", qPrintable(soubor));
+        }
+    }
+    return chyby == 0 ? 0 : 1;
+}
