@@ -1,8 +1,10 @@
 // Tombi: the desktop program. One instance a user: a second start hands over to the first, which
 // comes to the front. The frame and its windows live in tombi_gui.
+#include "app/Cestina.h"
 #include "app/Hodiny.h"
 #include "app/Relace.h"
 #include "app/frmCDlg.h"
+#include "app/frmKresleni.h"
 #include "app/frmMDITombi.h"
 #include "data/Nastaveni.h"
 #include "data/Soubory.h"
@@ -94,6 +96,8 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringView(Organizace_Registru).toString());
     QApplication::setApplicationName(QStringView(Aplikace_Registru).toString());
+    QApplication::setWindowIcon(frmKresleni::Ikona_Programu());
+    Nastav_Cestinu_Qt();
 
     const QString server = Jmeno_Serveru();
     if (Predej_Prvnimu(server))
@@ -113,7 +117,6 @@ int main(int argc, char** argv) {
     Poslouchej(posluchac, server, okno);
 
     okno.Start();
-    okno.show();
 
     // For the developer: how long the start takes, from here to a shown window and an idle loop.
     if (qEnvironmentVariableIsSet("TOMBI_MERENI_STARTU"))

@@ -1,7 +1,8 @@
 #pragma once
 // The session: all working data of one run of Tombi. main owns the one instance and hands it to
 // every window, which reads and writes its members directly; tests make their own. The seams
-// (clock, dialogs, the user's settings store) are set by whoever makes the session.
+// (clock, dialogs, the user's settings store, the window services) are set by whoever makes the
+// session.
 
 #include "app/Random.h"
 #include "app/pTikety.h"
@@ -14,12 +15,15 @@
 class Dialogy;
 class Hodiny;
 class QSettings;
+class Sluzby_Oken;
 
 struct Relace {
     // Seams.
     Hodiny* Cas = nullptr;
     Dialogy* Dialog = nullptr;
     QSettings* Registr = nullptr; // holds Pws
+    // The notice, the status band and the busy state of the main window; none without windows.
+    Sluzby_Oken* Sluzby = nullptr;
 
     QString Cesta_Programu;    // the program's directory: tombi.cfg and, by default, all data
     QString Verze;             // "major.minor"

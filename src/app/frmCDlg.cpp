@@ -1,8 +1,10 @@
 #include "app/frmCDlg.h"
 
+#include "app/frmKresleni.h"
+#include "app/frmPismo.h"
+
 #include <QFile>
 #include <QFileDialog>
-#include <QFontDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPushButton>
@@ -75,9 +77,10 @@ Dialogy::Odpoved frmCDlg::Otazka(Ikona ikona, const QString& titulek, const QStr
         zruseni = Odpoved::Ne;
         break;
     }
-    // Czech captions whether or not Qt's own translations are installed.
-    for (const auto& [tlacitko, text] : {std::pair{QMessageBox::Cancel, u"Zrušit"_qs},
-                                         std::pair{QMessageBox::Yes, u"Ano"_qs}, std::pair{QMessageBox::No, u"Ne"_qs}})
+    // Czech captions, as Qt's Czech translation gives them, also where it is not installed.
+    for (const auto& [tlacitko, text] :
+         {std::pair{QMessageBox::Cancel, u"Zrušit"_qs}, std::pair{QMessageBox::Yes, u"&Ano"_qs},
+          std::pair{QMessageBox::No, u"&Ne"_qs}})
         if (QAbstractButton* nalezene = okno.button(tlacitko))
             nalezene->setText(text);
     if (QAbstractButton* tlacitko = okno.button(Qt_Tlacitko(vychozi)))
@@ -125,14 +128,14 @@ bool frmCDlg::Vybrat_Pismo(Pismo& pismo) {
     if (pismo.Velikost > 0)
         puvodni.setPointSize(pismo.Velikost);
     puvodni.setBold(pismo.Tucne);
-    bool vybrano = false;
-    const QFont nove = QFontDialog::getFont(&vybrano, puvodni, Vlastnik);
-    if (!vybrano)
+    frmPismo okno(puvodni, frmKresleni::Barva_Z_Vb(pismo.Barva), Vlastnik);
+    if (okno.exec() != QDialog::Accepted)
         return false;
-    // The dialog has no colour; the stored one stays.
+    const QFont nove = okno.Pismo();
     pismo.Jmeno = nove.family();
     pismo.Velikost = nove.pointSize() > 0 ? nove.pointSize() : pismo.Velikost;
     pismo.Tucne = nove.bold();
+    pismo.Barva = frmKresleni::Barva_Do_Vb(okno.Barva());
     return true;
 }
 

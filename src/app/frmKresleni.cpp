@@ -2,10 +2,21 @@
 
 #include "app/pTikety.h"
 
+#include <QIcon>
 #include <QPaintDevice>
 #include <QPainter>
 
 #include <array>
+
+// The icon lives in the GUI library, which is static: without this the linker would drop it.
+// The macro must stand outside any namespace.
+static void Nacti_Zdroje_Ikony() {
+    static const bool nacteno = [] {
+        Q_INIT_RESOURCE(ikona);
+        return true;
+    }();
+    Q_UNUSED(nacteno);
+}
 
 namespace frmKresleni {
 
@@ -47,6 +58,27 @@ QColor Barva_Palety(int index) {
     return QColor::fromRgb(Paleta[static_cast<unsigned>(index) % Paleta.size()]);
 }
 
+QColor Barva_Z_Vb(int32_t barva) {
+    return QColor(barva & 0xFF, (barva >> 8) & 0xFF, (barva >> 16) & 0xFF);
+}
+
+int32_t Barva_Do_Vb(const QColor& barva) {
+    const QColor rgb = barva.toRgb();
+    return int32_t(rgb.red() | (rgb.green() << 8) | (rgb.blue() << 16));
+}
+
+QIcon Ikona_Programu() {
+    Nacti_Zdroje_Ikony();
+    return QIcon(u":/ikona/tombi.svg"_qs);
+}
+
+} // namespace frmKresleni
+
+namespace modTombi {
+
+// The cell geometry, the pen and the palette are the drawing surface's, shared with frmKresleni.
+using namespace frmKresleni;
+
 void Nakresli_Krizek(QPainter& kreslic, int cislo, int barva, int tloustka) {
     if (cislo < 1 || cislo > 49)
         return;
@@ -78,4 +110,4 @@ void Nakresli_Ramecek(QPainter& kreslic, double x, double y, const QColor& barva
     kreslic.restore();
 }
 
-} // namespace frmKresleni
+} // namespace modTombi

@@ -5,28 +5,30 @@
 #include "app/Relace.h"
 #include "app/Tabulka_Textu.h"
 #include "app/Vb.h"
+#include "app/frmKresleni.h"
+#include "app/frmMDITombi_Sluzby.h"
+#include "app/frmMDITombi_Stav.h"
+#include "app/frmMDITombi_Tahy.h"
+#include "app/frmMDITombi_Tipy.h"
 #include "app/frmNapoveda.h"
 #include "app/frmNeniProcedura.h"
 #include "app/frmOProgramu.h"
+#include "app/frmPrehled.h"
 #include "app/frmTombi_uvod.h"
 #include "app/modTombi.h"
-#include "data/Chyby_A_Prehled.h"
 #include "data/Nastaveni.h"
 #include "data/Nedavne_Soubory.h"
 #include "data/Soubory.h"
-#include "net/Import_Tahu.h"
 
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileInfo>
-#include <QLabel>
+#include <QEventLoop>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QProcess>
-#include <QProgressBar>
 #include <QScreen>
 #include <QSettings>
 #include <QTimer>
@@ -35,31 +37,17 @@
 
 namespace {
 
-// Commands whose windows are still to come stay disabled: a command is switched on by taking its
-// line out. An entry without an index stands for the whole menu array.
-constexpr QStringView Nehotove_Prikazy[] = {
-    u"mnuPripojSouborTipu", u"mnuSetriditSouborTipu", u"mnuGenerujTipy", u"mnuVlastniTipy", u"mnuVyhodnoceniTipu",
-    u"mnuExportTipu",       u"mnuImportTipu",         u"mnuTiskTiketu",  u"mnuVypisTahu",   u"mnuRozsirSouborTahy",
-    u"mnuAnalyza",          u"mnuAnalyzaAutomat",     u"mnuVypisAnalyz", u"mnuDownload",    u"mnuOtevriSeznam",
-    u"mnuNovySeznam",       u"mnuVypisSeznamu",       u"mnuUvolnit",     u"mnuSeznamFile",  u"mnuKonfigurace",
-    u"mnuWebTombiNovaVer",
-};
-// Commands that work on the archive of the day, and so are off while the day has none.
-constexpr QStringView Prikazy_Archivu[] = {u"mnuVypisTahu", u"mnuRozsirSouborTahy", u"mnuAnalyza"};
-
-bool Obsahuje(const auto& seznam, QStringView jmeno) {
-    return std::find(std::begin(seznam), std::end(seznam), jmeno) != std::end(seznam);
-}
-
-const QString Adresa_Sazky = u"https://www.sazka.cz"_qs;
-const QString& Adresa_Tombi = frmOProgramu::Domovska_Stranka;
-const QString Filtr_Tipu = u"Soubor tipů (*.tip)|*.tip"_qs;
-const QString Stranka_Napovedy = u"index.html"_qs;
-
 // The window's size when no place is stored, in twips; the screen may make it smaller.
 constexpr double Vychozi_Sirka = 13500;
 constexpr double Vychozi_Vyska = 9750;
 constexpr double Nejmensi_Rozmer = 6000;
+
+// The inner area when the user has chosen neither a picture nor a colour of his own.
+const QColor Nase_Pozadi(0x6b, 0x7b, 0x8c);
+// Whether the window was maximised lives beside Pws: tombi.cfg keeps only the place.
+const QString Klic_Maximalizace = u"Okno/Maximalizovane"_qs;
+// A window hidden by the frame because its inner window hid itself for a moment.
+constexpr char Skryto_Na_Chvili[] = "Tombi_Skryto";
 
 // Menu captions show a file name: an ampersand in it is a plain character, not an access key.
 QString Bez_Klavesy(QString text) {
@@ -69,13 +57,15 @@ QString Bez_Klavesy(QString text) {
 } // namespace
 
 frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
-    : QMainWindow(parent), Data_Relace(relace), Mdi_Plocha(new QMdiArea),
-      Pas_Stavu(new frmMDITombi_Stav(relace, this)) {
+    : QMainWindow(parent), Data_Relace(relace), Mdi_Plocha(new QMdiArea), Pas_Stavu(new frmMDITombi_Stav(relace, this)),
+      Sluzby_Okna(std::make_unique<frmMDITombi_Sluzby>(relace, *this)) {
     setObjectName(u"frmMDITombi"_qs);
     setWindowTitle(u" TOMBI   "_qs + QStringLiteral(TOMBI_VERZE));
+    Data_Relace.Sluzby = Sluzby_Okna.get();
 
     Mdi_Plocha->setObjectName(u"Plocha"_qs);
-    Mdi_Plocha->setBackground(QColor(0x6b, 0x7b, 0x8c));
+    Mdi_Plocha->setBackground(Nase_Pozadi);
+    Mdi_Plocha->viewport()->installEventFilter(this);
     auto* stred = new QWidget;
     auto* rozvrzeni = new QVBoxLayout(stred);
     rozvrzeni->setContentsMargins(0, 0, 0, 0);
@@ -86,7 +76,6 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
 
     Vytvor_Menu();
     Nastav_Texty(Tabulka_Textu::Programu());
-    Obnov_Povoleni();
     setMinimumSize(Pixely(Nejmensi_Rozmer, *this), Pixely(Nejmensi_Rozmer, *this));
     resize(Pixely(Vychozi_Sirka, *this), Pixely(Vychozi_Vyska, *this));
 
@@ -96,6 +85,17 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
     };
     Data_Relace.Tikety.Pumpa = [] { QCoreApplication::processEvents(); };
 
+    // The commands that are the frame's own; every other one is connected by its window or menu.
+    Obsluz(mnuSportka_streda, [this] { Prepni_Den(Den::Streda); });
+    Obsluz(mnuSportka_nedele, [this] { Prepni_Den(Den::Nedele); });
+    Obsluz(mnuKonec, [this] { close(); });
+    frmMDITombi_Tipy::Pripoj_Prikazy(*this);
+    frmMDITombi_Tahy::Pripoj_Prikazy(*this);
+    frmNapoveda::Pripoj_Prikazy(*this);
+    frmOProgramu::Pripoj_Prikazy(*this);
+    frmPrehled::Pripoj_Prikazy(*this);
+    Obnov_Povoleni();
+
     // A click anywhere on the main window sends the splash and the notice away; the click may
     // land on any child, so the filter sits on the application.
     qApp->installEventFilter(this);
@@ -103,16 +103,17 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
 
 frmMDITombi::~frmMDITombi() {
     qApp->removeEventFilter(this);
+    Sluzby_Okna->Ukonci_Praci();
     Data_Relace.Tikety.Pumpa = nullptr;
-    if (Uvod)
-        delete Uvod;
+    Data_Relace.Sluzby = nullptr;
+    delete Uvod;
 }
 
 void frmMDITombi::Vytvor_Menu() {
     mnuVolbaTahu = menuBar()->addMenu(QString());
     mnuVolbaTahu->setObjectName(u"mnuVolbaTahu"_qs);
-    mnuSportka_streda = Prikaz(mnuVolbaTahu, u"mnuSportka_streda"_qs, &frmMDITombi::mnuSportka_streda_Click);
-    mnuSportka_nedele = Prikaz(mnuVolbaTahu, u"mnuSportka_nedele"_qs, &frmMDITombi::mnuSportka_nedele_Click);
+    mnuSportka_streda = Prikaz(mnuVolbaTahu, u"mnuSportka_streda"_qs);
+    mnuSportka_nedele = Prikaz(mnuVolbaTahu, u"mnuSportka_nedele"_qs);
     auto* dny = new QActionGroup(this);
     for (QAction* den : {mnuSportka_streda, mnuSportka_nedele}) {
         den->setCheckable(true);
@@ -120,21 +121,17 @@ void frmMDITombi::Vytvor_Menu() {
     }
     mnuVolbaTahu->addSeparator();
     mnuKonec = Prikaz(mnuVolbaTahu, u"mnuKonec"_qs);
-    connect(mnuKonec, &QAction::triggered, this, &QWidget::close);
     for (int i = 0; i < int(mnuRecentFile.size()); ++i) {
         mnuRecentFile[i] = Prikaz(mnuVolbaTahu, u"mnuRecentFile(%1)"_qs.arg(i));
         mnuRecentFile[i]->setVisible(false);
-        if (i == 0)
-            mnuRecentFile[i]->setSeparator(true);
-        else
-            connect(mnuRecentFile[i], &QAction::triggered, this, [this, i] { mnuRecentFile_Click(i); });
+        mnuRecentFile[i]->setSeparator(i == 0);
     }
 
     mnuTipy = menuBar()->addMenu(QString());
     mnuTipy->setObjectName(u"mnuTipy"_qs);
-    mnuOtevriSouborTipu = Prikaz(mnuTipy, u"mnuOtevriSouborTipu"_qs, &frmMDITombi::mnuOtevriSouborTipu_Click);
+    mnuOtevriSouborTipu = Prikaz(mnuTipy, u"mnuOtevriSouborTipu"_qs);
     mnuPripojSouborTipu = Prikaz(mnuTipy, u"mnuPripojSouborTipu"_qs);
-    mnuKonverzeSouboruTipu = Prikaz(mnuTipy, u"mnuKonverzeSouboruTipu"_qs, &frmMDITombi::mnuKonverzeSouboruTipu_Click);
+    mnuKonverzeSouboruTipu = Prikaz(mnuTipy, u"mnuKonverzeSouboruTipu"_qs);
     mnuSetriditSouborTipu = Prikaz(mnuTipy, u"mnuSetriditSouborTipu"_qs);
     mnuTipy->addSeparator();
     mnuGenerujTipy = Prikaz(mnuTipy, u"mnuGenerujTipy"_qs);
@@ -155,16 +152,16 @@ void frmMDITombi::Vytvor_Menu() {
     mnuAnalyzaAutomat = Prikaz(mnuTahy, u"mnuAnalyzaAutomat"_qs);
     mnuVypisAnalyz = Prikaz(mnuTahy, u"mnuVypisAnalyz"_qs);
     mnuTahy->addSeparator();
-    mnuAktualizaceTahu = Prikaz(mnuTahy, u"mnuAktualizaceTahu"_qs, &frmMDITombi::mnuAktualizaceTahu_Click);
+    mnuAktualizaceTahu = Prikaz(mnuTahy, u"mnuAktualizaceTahu"_qs);
     mnuDownload = Prikaz(mnuTahy, u"mnuDownload"_qs);
-    mnuObnovaDatTahu = Prikaz(mnuTahy, u"mnuObnovaDatTahu"_qs, &frmMDITombi::mnuObnovaDatTahu_Click);
+    mnuObnovaDatTahu = Prikaz(mnuTahy, u"mnuObnovaDatTahu"_qs);
     mnuTahy->addSeparator();
-    mnuWeb_Sazka = Prikaz(mnuTahy, u"mnuWeb_Sazka"_qs, &frmMDITombi::mnuWeb_Sazka_Click);
+    mnuWeb_Sazka = Prikaz(mnuTahy, u"mnuWeb_Sazka"_qs);
 
     mnuSeznamy = menuBar()->addMenu(QString());
     mnuSeznamy->setObjectName(u"mnuSeznamy"_qs);
     mnuOtevriSeznam = Prikaz(mnuSeznamy, u"mnuOtevriSeznam"_qs);
-    mnuPrehled = Prikaz(mnuSeznamy, u"mnuPrehled"_qs, &frmMDITombi::mnuPrehled_Click);
+    mnuPrehled = Prikaz(mnuSeznamy, u"mnuPrehled"_qs);
     mnuNovySeznam = Prikaz(mnuSeznamy, u"mnuNovySeznam"_qs);
     mnuVypisSeznamu = Prikaz(mnuSeznamy, u"mnuVypisSeznamu"_qs);
     mnuUvolnit = Prikaz(mnuSeznamy, u"mnuUvolnit"_qs);
@@ -176,20 +173,18 @@ void frmMDITombi::Vytvor_Menu() {
 
     mnuProgram = menuBar()->addMenu(QString());
     mnuProgram->setObjectName(u"mnuProgram"_qs);
-    mnuHelp = Prikaz(mnuProgram, u"mnuHelp"_qs, &frmMDITombi::mnuHelp_Click);
+    mnuHelp = Prikaz(mnuProgram, u"mnuHelp"_qs);
     mnuKonfigurace = Prikaz(mnuProgram, u"mnuKonfigurace"_qs);
     mnuProgram->addSeparator();
-    mnuWebTombi = Prikaz(mnuProgram, u"mnuWebTombi"_qs, &frmMDITombi::mnuWebTombi_Click);
+    mnuWebTombi = Prikaz(mnuProgram, u"mnuWebTombi"_qs);
     mnuWebTombiNovaVer = Prikaz(mnuProgram, u"mnuWebTombiNovaVer"_qs);
     mnuProgram->addSeparator();
-    mnuOProgramu = Prikaz(mnuProgram, u"mnuOProgramu"_qs, &frmMDITombi::mnuOProgramu_Click);
+    mnuOProgramu = Prikaz(mnuProgram, u"mnuOProgramu"_qs);
 }
 
-QAction* frmMDITombi::Prikaz(QMenu* menu, const QString& jmeno, void (frmMDITombi::*obsluha)()) {
+QAction* frmMDITombi::Prikaz(QMenu* menu, const QString& jmeno) {
     QAction* prikaz = menu->addAction(QString());
     prikaz->setObjectName(jmeno);
-    if (obsluha != nullptr)
-        connect(prikaz, &QAction::triggered, this, obsluha);
     return prikaz;
 }
 
@@ -203,14 +198,46 @@ void frmMDITombi::Nastav_Texty(const Tabulka_Textu& texty) {
     Pas_Stavu->Nastav_Texty(texty);
 }
 
+// ---- Commands ----
+
+void frmMDITombi::Obsluz(QAction* prikaz, std::function<void()> obsluha) {
+    connect(prikaz, &QAction::triggered, this, std::move(obsluha));
+    Obsluhovane.insert(prikaz);
+}
+
+bool frmMDITombi::Je_Nehotovy(const QAction* prikaz) const {
+    // Commands whose windows are still to come stay off; a command is switched on by taking it
+    // out of this list once its window connects it.
+    const QAction* const nehotove[] = {
+        mnuPripojSouborTipu, mnuSetriditSouborTipu, mnuGenerujTipy, mnuVlastniTipy,     mnuVyhodnoceniTipu,
+        mnuExportTipu,       mnuImportTipu,         mnuTiskTiketu,  mnuVypisTahu,       mnuRozsirSouborTahy,
+        mnuAnalyza,          mnuAnalyzaAutomat,     mnuVypisAnalyz, mnuDownload,        mnuOtevriSeznam,
+        mnuNovySeznam,       mnuVypisSeznamu,       mnuUvolnit,     mnuKonfigurace,     mnuWebTombiNovaVer,
+    };
+    return std::find(std::begin(nehotove), std::end(nehotove), prikaz) != std::end(nehotove) ||
+           (prikaz != mnuSeznamFile[0] && std::find(mnuSeznamFile.begin(), mnuSeznamFile.end(), prikaz) != mnuSeznamFile.end());
+}
+
+void frmMDITombi::Nastav_Zamek(const QString& jmeno, Zamek zamek) {
+    if (zamek)
+        Zamky.insert(jmeno, std::move(zamek));
+    else
+        Zamky.remove(jmeno);
+    Obnov_Povoleni();
+}
+
 void frmMDITombi::Obnov_Povoleni() {
+    // Commands that work on the archive of the day, and so are off while the day has none.
+    const QAction* const archivni[] = {mnuVypisTahu, mnuRozsirSouborTahy, mnuAnalyza};
+    menuBar()->setEnabled(!Sluzby_Okna->Pracuje());
     for (QMenu* menu : {mnuVolbaTahu, mnuTipy, mnuTahy, mnuSeznamy, mnuProgram}) {
         for (QAction* prikaz : menu->actions()) {
-            const QString jmeno = prikaz->objectName();
-            const QStringView bez_indexu = QStringView(jmeno).left(jmeno.indexOf(u'('));
-            const bool hotovy = !Obsahuje(Nehotove_Prikazy, jmeno) && !Obsahuje(Nehotove_Prikazy, bez_indexu);
-            const bool ma_tahy = !Chybi_Tahy || !Obsahuje(Prikazy_Archivu, jmeno);
-            prikaz->setEnabled(hotovy && ma_tahy);
+            bool zapnout = !Je_Nehotovy(prikaz);
+            if (Chybi_Tahy && std::find(std::begin(archivni), std::end(archivni), prikaz) != std::end(archivni))
+                zapnout = false;
+            for (const Zamek& zamek : std::as_const(Zamky))
+                zapnout = zapnout && !zamek(prikaz);
+            prikaz->setEnabled(zapnout);
         }
     }
 }
@@ -223,8 +250,8 @@ void frmMDITombi::Start() {
     relace.Verze = QStringLiteral(TOMBI_VERZE);
     setWindowTitle(u" TOMBI   "_qs + relace.Verze);
 
-    Uvod = new frmTombi_uvod(relace.Verze);
-    Uvod->setAttribute(Qt::WA_DeleteOnClose);
+    Uvod = new frmTombi_uvod(relace.Verze, this);
+    Uvod->Vycentruj(*this);
     Uvod->show();
 
     const QDate dnes = relace.Cas->Dnes();
@@ -234,15 +261,22 @@ void frmMDITombi::Start() {
 
     const Vysledek nastaveni = Nacti_Nastaveni(relace.Nastaveni, relace.Cesta_Programu, relace.Verze, *relace.Registr);
     if (!nastaveni.Ok())
-        Zprava(nastaveni.Zprava);
+        Sluzby_Okna->Zprava(nastaveni.Zprava);
     // The tool tip waits for the settings, which say whether it is wanted.
     if (Vb::Je_Pravda(relace.Nastaveni.Info_Tah) && !relace.Dalsi_Tah.isEmpty())
         Pas_Stavu->txtSportka_Tah->setToolTip(Tabulka_Textu::Programu().Text(u"txtSportka_Tah.ToolTipText"_qs) +
                                               relace.Dalsi_Tah);
     Pas_Stavu->Nastav_Vzhled_Prubehu();
+    Nastav_Pozadi();
     Naplnit_Menu_Nedavnych(Druh_Tipy);
     Naplnit_Menu_Nedavnych(Druh_Seznamy);
+
+    // The window is shown in its place before the day is chosen, so that a notice of a missing
+    // archive stands over the window and the splash, not under them.
     Umisti_Okno();
+    if (Uvod)
+        Uvod->Vycentruj(*this);
+    show();
 
     relace.Archiv.Pocet_Let = 0;
     Prepni_Den(modTombi::Den_Podle_Tydne(relace.Den_V_Tydnu));
@@ -258,13 +292,16 @@ void frmMDITombi::Umisti_Okno() {
     if (n.Okno_Sirka >= Nejmensi_Rozmer && n.Okno_Vyska >= Nejmensi_Rozmer &&
         QGuiApplication::screenAt(ulozene.center()) != nullptr) {
         setGeometry(ulozene);
-        return;
+    } else {
+        // A small screen keeps a rim around the window for the system's frame.
+        const QSize velikost(std::min(Pixely(Vychozi_Sirka, *this), plocha.width() * 9 / 10),
+                             std::min(Pixely(Vychozi_Vyska, *this), plocha.height() * 9 / 10));
+        resize(velikost.expandedTo(minimumSize()));
+        move(plocha.x() + (plocha.width() - width()) / 2, plocha.y() + (plocha.height() - height()) / 2);
     }
-    // A small screen keeps a rim around the window for the system's frame.
-    const QSize velikost(std::min(Pixely(Vychozi_Sirka, *this), plocha.width() * 9 / 10),
-                         std::min(Pixely(Vychozi_Vyska, *this), plocha.height() * 9 / 10));
-    resize(velikost.expandedTo(minimumSize()));
-    move(plocha.x() + (plocha.width() - width()) / 2, plocha.y() + (plocha.height() - height()) / 2);
+    // Maximised over the normal place just set, so that un-maximising returns to it.
+    if (Data_Relace.Registr != nullptr && Data_Relace.Registr->value(Klic_Maximalizace).toBool())
+        setWindowState(windowState() | Qt::WindowMaximized);
 }
 
 void frmMDITombi::Uloz_Misto_Okna() {
@@ -274,6 +311,8 @@ void frmMDITombi::Uloz_Misto_Okna() {
     n.Okno_Horni = Twipy(misto.y(), *this);
     n.Okno_Sirka = Twipy(misto.width(), *this);
     n.Okno_Vyska = Twipy(misto.height(), *this);
+    if (Data_Relace.Registr != nullptr)
+        Data_Relace.Registr->setValue(Klic_Maximalizace, isMaximized());
 }
 
 void frmMDITombi::closeEvent(QCloseEvent* udalost) {
@@ -299,8 +338,7 @@ void frmMDITombi::closeEvent(QCloseEvent* udalost) {
         udalost->ignore();
         return;
     }
-    if (Oznameni)
-        Oznameni->close();
+    Sluzby_Okna->Zavri_Oznameni();
     Uloz_Misto_Okna();
     const Vysledek ulozeni = Uloz_Nastaveni(relace.Nastaveni, *relace.Registr);
     // A notice would vanish with the program: this one waits for the user.
@@ -311,241 +349,154 @@ void frmMDITombi::closeEvent(QCloseEvent* udalost) {
 }
 
 bool frmMDITombi::eventFilter(QObject* objekt, QEvent* udalost) {
-    if (udalost->type() == QEvent::Hide && objekt->isWidgetType())
-        Po_Skryti_Okna(static_cast<QWidget*>(objekt));
-    if (udalost->type() == QEvent::MouseButtonPress && (Uvod || Oznameni) && objekt->isWidgetType() &&
-        (static_cast<QWidget*>(objekt)->window() == this || static_cast<QWidget*>(objekt)->window() == Uvod)) {
-        if (Uvod)
+    if (!objekt->isWidgetType())
+        return QMainWindow::eventFilter(objekt, udalost);
+    auto* prvek = static_cast<QWidget*>(objekt);
+    switch (udalost->type()) {
+    case QEvent::MouseButtonPress:
+        if (prvek->window() == this) {
+            if (Uvod)
+                Uvod->close();
+            Sluzby_Okna->Zavri_Oznameni();
+        }
+        break;
+    case QEvent::KeyPress:
+        if (Uvod && prvek->window() == this)
             Uvod->close();
-        if (Oznameni)
-            Oznameni->close();
+        break;
+    case QEvent::Close:
+    case QEvent::Hide:
+        Po_Skryti_Okna(prvek, udalost->type() == QEvent::Close);
+        break;
+    case QEvent::Show:
+        // A window that hid itself for a moment comes back in its frame.
+        if (auto* podokno = qobject_cast<QMdiSubWindow*>(prvek->parentWidget());
+            podokno != nullptr && podokno->widget() == prvek && podokno->property(Skryto_Na_Chvili).toBool()) {
+            podokno->setProperty(Skryto_Na_Chvili, false);
+            podokno->show();
+        }
+        break;
+    case QEvent::Resize:
+        if (objekt == Mdi_Plocha->viewport() && !Obrazek_Pozadi.isNull())
+            Kresli_Pozadi();
+        break;
+    default:
+        break;
     }
     return QMainWindow::eventFilter(objekt, udalost);
 }
 
 // ---- Windows ----
 
-void frmMDITombi::Ukaz_V_Plose(QWidget* okno) {
+void frmMDITombi::Ukaz_V_Plose(QWidget* okno, bool vpravo) {
     auto* podokno = qobject_cast<QMdiSubWindow*>(okno->parentWidget());
-    if (podokno == nullptr || podokno->mdiArea() != Mdi_Plocha)
+    if (podokno == nullptr || podokno->mdiArea() != Mdi_Plocha) {
         podokno = Mdi_Plocha->addSubWindow(okno);
+        // A window of a fixed size gets no maximise button and cannot be stretched.
+        if (okno->minimumSize() == okno->maximumSize() && !okno->maximumSize().isEmpty()) {
+            podokno->setWindowFlags(Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+            podokno->adjustSize();
+            podokno->setFixedSize(podokno->size());
+        }
+    }
+    podokno->setProperty(Skryto_Na_Chvili, false);
     okno->show();
     podokno->show();
+    if (vpravo)
+        podokno->move(std::max(0, Mdi_Plocha->viewport()->width() - podokno->width()), 0);
     Mdi_Plocha->setActiveSubWindow(podokno);
 }
 
-QList<QMdiSubWindow*> frmMDITombi::Otevrena_Okna() const {
-    QList<QMdiSubWindow*> okna = Mdi_Plocha->subWindowList(QMdiArea::CreationOrder);
-    // A closed window may still wait for its deletion.
-    okna.removeIf([](const QMdiSubWindow* okno) { return okno->isHidden(); });
+void frmMDITombi::Ukaz_Modalne(QWidget* okno) {
+    okno->setParent(this, Qt::Dialog);
+    okno->setAttribute(Qt::WA_DeleteOnClose);
+    okno->setWindowModality(Qt::ApplicationModal);
+    Modalni_Okna.append(okno);
+    QEventLoop smycka;
+    connect(okno, &QObject::destroyed, &smycka, &QEventLoop::quit);
+    okno->show();
+    smycka.exec();
+    Modalni_Okna.removeAll(nullptr);
+}
+
+QList<QWidget*> frmMDITombi::Otevrena_Okna() const {
+    QList<QWidget*> okna;
+    for (const QMdiSubWindow* podokno : Mdi_Plocha->subWindowList(QMdiArea::CreationOrder))
+        // A closed window may still wait for its deletion; one hidden for a moment is open.
+        if (podokno->widget() != nullptr && (podokno->isVisible() || podokno->property(Skryto_Na_Chvili).toBool()))
+            okna << podokno->widget();
+    for (const QPointer<QWidget>& okno : Modalni_Okna)
+        if (okno && okno->isVisible())
+            okna << okno.data();
     return okna;
 }
 
-void frmMDITombi::Po_Skryti_Okna(QWidget* okno) {
+QWidget* frmMDITombi::Najdi_Okno(const QMetaObject& trida) const {
+    for (QWidget* okno : Otevrena_Okna())
+        if (trida.cast(okno) != nullptr)
+            return okno;
+    return nullptr;
+}
+
+bool frmMDITombi::Zavri(QWidget* okno) {
+    auto* podokno = qobject_cast<QMdiSubWindow*>(okno->parentWidget());
+    return podokno != nullptr && podokno->mdiArea() == Mdi_Plocha ? podokno->close() : okno->close();
+}
+
+void frmMDITombi::Po_Skryti_Okna(QWidget* okno, bool zavreno) {
     auto* podokno = qobject_cast<QMdiSubWindow*>(okno->parentWidget());
     if (podokno == nullptr || podokno->mdiArea() != Mdi_Plocha || podokno->widget() != okno)
         return;
-    // A window that closes itself would leave its empty frame behind in the area. Minimising hides
-    // the window too, and is left alone.
-    QTimer::singleShot(0, podokno, [podokno] {
+    // A window that closes itself takes its frame in the area with it; one that hides itself for a
+    // moment keeps its state and gets its frame back when it shows again. Minimising hides the
+    // window too, and is left alone.
+    QTimer::singleShot(0, podokno, [podokno, zavreno] {
         const QWidget* vnitrek = podokno->widget();
-        if (podokno->isHidden() || podokno->isMinimized() || podokno->isShaded() ||
-            (vnitrek != nullptr && !vnitrek->isHidden()))
+        if (podokno->isHidden() || podokno->isMinimized() || podokno->isShaded() || vnitrek == nullptr ||
+            !vnitrek->isHidden())
             return;
-        podokno->hide();
-        podokno->deleteLater();
+        if (zavreno) {
+            podokno->close();
+        } else {
+            podokno->setProperty(Skryto_Na_Chvili, true);
+            podokno->hide();
+        }
     });
 }
 
-bool frmMDITombi::Zavri_Okno(const char* trida) {
-    for (QMdiSubWindow* okno : Otevrena_Okna())
-        if (okno->widget() != nullptr && qstrcmp(okno->widget()->metaObject()->className(), trida) == 0)
-            return okno->close();
-    return true;
-}
-
 void frmMDITombi::Zavri_Formulare(int od) {
-    const QList<QMdiSubWindow*> okna = Otevrena_Okna();
+    const QList<QWidget*> okna = Otevrena_Okna();
     for (qsizetype i = okna.size(); i >= std::max(od, 1); --i)
-        okna[i - 1]->close();
+        Zavri(okna[i - 1]);
 }
 
 void frmMDITombi::Zavri_Pro_Analyzu() {
-    for (const char* trida : {"frmVypisTipu", "frmVypisTahu", "frmGeneruj", "frmVypisTipuVsech", "frmSeznamSazejicich"})
-        Zavri_Okno(trida);
-    if (Oznameni)
-        Oznameni->close();
-    for (const char* trida : {"frmTiskTiketu", "frmOProgramu"})
-        Zavri_Okno(trida);
+    // In this order: the tip list, the draw list, the generator, the list of all tips, the
+    // bettors' list, the notice, ticket printing and the about window; each window joins here once
+    // it is built.
+    Sluzby_Okna->Zavri_Oznameni();
+    Zavri_Okno<frmOProgramu>();
     Pas_Stavu->txtRozpisAktivni->clear();
-}
-
-// ---- Messages and the busy state ----
-
-void frmMDITombi::Zprava(const QString& text) {
-    if (Pauza_Pred_Zpravou)
-        Cekej(3);
-    Text_Zpravy = text;
-    if (Oznameni)
-        Oznameni->close();
-    Oznameni = new frmNeniProcedura(text, this);
-}
-
-void frmMDITombi::Cekej(double sekundy) {
-    // The pump sleeps until the next event, and this timer is sure to bring one, so the wait does
-    // not spin the processor.
-    QTimer buzik;
-    buzik.start(10);
-    modTombi::Cekej(*Data_Relace.Cas, sekundy, [] { QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents); });
-}
-
-void frmMDITombi::Nastav_Status(const QString& rozpis, const QString& pocet) {
-    Pas_Stavu->txtPocet_Vybranych->setText(pocet);
-    Pas_Stavu->txtRozpisAktivni->setText(rozpis);
-}
-
-void frmMDITombi::Nastav_Aktivni_Poradi(const QString& text) {
-    Pas_Stavu->lblAktivniPoradi->setText(text);
-}
-
-void frmMDITombi::Zacni_Praci() {
-    if (Hloubka_Prace++ == 0) {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        menuBar()->setEnabled(false);
-    }
-    Pas_Stavu->Ukaz_Prubeh(true);
-}
-
-void frmMDITombi::Ukonci_Praci() {
-    if (Hloubka_Prace == 0)
-        return;
-    if (--Hloubka_Prace == 0) {
-        QApplication::restoreOverrideCursor();
-        menuBar()->setEnabled(true);
-        Pas_Stavu->Ukaz_Prubeh(false);
-    }
-}
-
-Prubeh frmMDITombi::Prubeh_Prace() {
-    return [this](int procenta) {
-        Pas_Stavu->PercentBar1->setValue(procenta);
-        QCoreApplication::processEvents();
-        return !Data_Relace.Tikety.Zrusit_Beh;
-    };
 }
 
 // ---- Draw day ----
 
 void frmMDITombi::Prepni_Den(Den den) {
-    Nastav_Status(QString(), QString());
+    Sluzby_Okna->Nastav_Status(QString(), QString());
     (den == Den::Nedele ? mnuSportka_nedele : mnuSportka_streda)->setChecked(true);
     Pas_Stavu->txtSportka_Tah->setText(den == Den::Nedele ? u"NEDĚLE"_qs : u"STŘEDA"_qs);
     const Vysledek nacteni = modTombi::Prepni_Den(Data_Relace, den);
     Chybi_Tahy = !nacteni.Ok();
     if (Chybi_Tahy) {
-        Zprava(nacteni.Zprava);
+        Sluzby_Okna->Zprava(nacteni.Zprava);
         Pas_Stavu->txtSportka_Tah->clear();
     }
     Obnov_Povoleni();
     emit Den_Prepnut();
 }
 
-void frmMDITombi::mnuSportka_streda_Click() {
-    Prepni_Den(Den::Streda);
-}
-
-void frmMDITombi::mnuSportka_nedele_Click() {
-    Prepni_Den(Den::Nedele);
-}
-
-void frmMDITombi::mnuAktualizaceTahu_Click() {
-    Relace& relace = Data_Relace;
-    for (const char* trida : {"frmVypisTahu", "frmAnalyzaTahu"})
-        Zavri_Okno(trida);
-    Zacni_Praci();
-    const Vysledek import = Importuj_Tahy(relace.Archiv, relace.Adresar_Dat(), relace.Soubor_Tahu_Dbf,
-                                          relace.Nastaveni.Zaloha_Tahu, relace.Nastaveni.Smazat_Dbf, Prubeh_Prace());
-    Ukonci_Praci();
-    if (!import.Ok()) {
-        Zprava(import.Zprava);
-        return;
-    }
-    // The day is loaded anew from the file just written: counts, flat lists and commands follow.
-    Prepni_Den(Den(relace.Tikety.Den_Tahu));
-    if (!Chybi_Tahy)
-        Zprava(u"Data tahů byla aktualizována ze souboru \""_qs + relace.Soubor_Tahu_Dbf + u"\"."_qs);
-}
-
-void frmMDITombi::mnuObnovaDatTahu_Click() {
-    Relace& relace = Data_Relace;
-    const QString den = Pas_Stavu->txtSportka_Tah->text().left(6);
-    if (relace.Dialog->Otazka(Dialogy::Ikona::Otaznik, u"Obnova dat tahů ze záložní kopie"_qs,
-                              u"Opravdu provést návrat dat tahů "_qs + den, Dialogy::Tlacitka::Ano_Ne,
-                              Dialogy::Odpoved::Ne) != Dialogy::Odpoved::Ano)
-        return;
-    const Vysledek obnova = Obnov_Zalohu(relace.Archiv, relace.Adresar_Dat());
-    if (!obnova.Ok()) {
-        Zprava(obnova.Zprava);
-        return;
-    }
-    Zavri_Okno("frmVypisTahu");
-    Prepni_Den(Den(relace.Tikety.Den_Tahu));
-}
-
-// ---- Tip files ----
-
-void frmMDITombi::Otevri_Soubor_Tipu(const QString& cesta, Otevreni otevreni) {
-    Stav_Tipu& tipy = Data_Relace.Tipy;
-    const Vysledek nacteni = Nacti_Soubor_Tipu(tipy, cesta, otevreni);
-    if (!nacteni.Ok()) {
-        Zprava(nacteni.Zprava);
-        return;
-    }
-    Po_Otevreni_Tipu(tipy, cesta);
-    Pridej_Nedavny(Druh_Tipy, Jmeno_Bez_Adresare(cesta));
-    Nastav_Soubor_Tipu(QString::number(tipy.Soubor_Tipu.Pocet_Tipu));
-    emit Tipy_Otevreny();
-}
-
-void frmMDITombi::Zapomen_Soubor_Tipu() {
-    Data_Relace.Tipy.Pocet_Tipu_Aktivni = 0;
-    Data_Relace.Tipy.Jmeno_Souboru_Tipu.clear();
-    Nastav_Soubor_Tipu(u"0 tipů"_qs);
-}
-
-void frmMDITombi::mnuOtevriSouborTipu_Click() {
-    QString cesta;
-    bool vybrano = false;
-    Otevri_Dialog(0, Filtr_Tipu, u"Otevřít soubor tipů"_qs, cesta, Data_Relace.Nastaveni.Adresare[1], vybrano);
-    if (vybrano)
-        Otevri_Soubor_Tipu(cesta, Otevreni::Z_Dialogu);
-}
-
-void frmMDITombi::mnuRecentFile_Click(int index) {
-    const QString polozka = mnuRecentFile[index]->data().toString();
-    Otevri_Soubor_Tipu(Spoj_Cestu(Data_Relace.Nastaveni.Adresare[1], Soubor_Z_Polozky(polozka)), Otevreni::Z_Nedavnych);
-}
-
-void frmMDITombi::mnuKonverzeSouboruTipu_Click() {
-    QString cesta;
-    bool vybrano = false;
-    Otevri_Dialog(0, Filtr_Tipu, u"Konverze starého souboru tipů"_qs, cesta, Data_Relace.Nastaveni.Adresare[1],
-                  vybrano);
-    if (!vybrano)
-        return;
-    Stav_Tipu& tipy = Data_Relace.Tipy;
-    Zacni_Praci();
-    const Vysledek konverze = Konvertuj_Soubor_Tipu(tipy, cesta, Prubeh_Prace());
-    Ukonci_Praci();
-    if (!konverze.Ok()) {
-        Zprava(konverze.Zprava);
-        return;
-    }
-    Zprava(Text_Konverze_Hotova);
-    Pridej_Nedavny(Druh_Tipy, Jmeno_Bez_Adresare(cesta));
-    Nastav_Soubor_Tipu(QString::number(tipy.Soubor_Tipu.Pocet_Tipu));
-    emit Tipy_Otevreny();
-}
+// ---- Recent files ----
 
 void frmMDITombi::Pridej_Nedavny(int druh, const QString& jmeno) {
     Nastaveni_Zaznam& n = Data_Relace.Nastaveni;
@@ -554,7 +505,7 @@ void frmMDITombi::Pridej_Nedavny(int druh, const QString& jmeno) {
     Naplnit_Menu_Nedavnych(druh);
     const Vysledek ulozeni = Uloz_Nastaveni(n, *Data_Relace.Registr);
     if (!ulozeni.Ok())
-        Zprava(ulozeni.Zprava);
+        Sluzby_Okna->Zprava(ulozeni.Zprava);
 }
 
 void frmMDITombi::Naplnit_Menu_Nedavnych(int druh) {
@@ -574,66 +525,26 @@ void frmMDITombi::Naplnit_Menu_Nedavnych(int druh) {
     }
 }
 
-// ---- Dialogs ----
+// ---- Background and other programs ----
 
-void frmMDITombi::Otevri_Dialog(int typ, const QString& filtr, const QString& nazev, QString& jmeno,
-                                const QString& sloz, bool& vysledek) {
-    Relace& relace = Data_Relace;
-    Dialogy& dialog = *relace.Dialog;
-    Nastaveni_Zaznam& n = relace.Nastaveni;
-    vysledek = false;
-    switch (typ) {
-    case 0:
-    case 1: {
-        const std::optional<QString> cesta =
-            typ == 0 ? dialog.Otevrit_Soubor(filtr, nazev, sloz) : dialog.Ulozit_Soubor(filtr, nazev, jmeno, sloz);
-        if (cesta) {
-            jmeno = *cesta;
-            vysledek = true;
-        }
-        break;
-    }
-    case 2:
-        vysledek = dialog.Vybrat_Tiskarnu();
-        break;
-    case 3:
-    case 4: {
-        const bool prvni = typ == 3;
-        Dialogy::Pismo pismo{prvni ? n.Pismo_Jmeno_1 : n.Pismo_Jmeno_2, prvni ? n.Pismo_Velikost_1 : n.Pismo_Velikost_2,
-                             Vb::Je_Pravda(prvni ? n.Pismo_Tucne_1 : n.Pismo_Tucne_2),
-                             prvni ? n.Pismo_Barva_1 : n.Pismo_Barva_2};
-        vysledek = dialog.Vybrat_Pismo(pismo);
-        if (!vysledek)
-            break;
-        (prvni ? n.Pismo_Jmeno_1 : n.Pismo_Jmeno_2) = pismo.Jmeno;
-        (prvni ? n.Pismo_Velikost_1 : n.Pismo_Velikost_2) = uint8_t(std::clamp(pismo.Velikost, 0, 255));
-        (prvni ? n.Pismo_Tucne_1 : n.Pismo_Tucne_2) = Vb::Bool16(pismo.Tucne);
-        (prvni ? n.Pismo_Barva_1 : n.Pismo_Barva_2) = pismo.Barva;
-        if (!prvni) {
-            const Vysledek ulozeni = Uloz_Nastaveni(n, *relace.Registr);
-            if (!ulozeni.Ok())
-                Zprava(ulozeni.Zprava);
-        }
-        break;
-    }
-    default:
-        break;
-    }
-    if (!vysledek)
-        QDir::setCurrent(relace.Adresar_Dat());
+void frmMDITombi::Nastav_Pozadi() {
+    const Nastaveni_Zaznam& n = Data_Relace.Nastaveni;
+    Data_Relace.Obrazek_Pozadi = n.Obrazek_Pozadi;
+    Obrazek_Pozadi = QPixmap();
+    if (n.Bez_Pozadi == 0 && !n.Obrazek_Pozadi.trimmed().isEmpty())
+        Obrazek_Pozadi.load(Spoj_Cestu(Data_Relace.Cesta_Programu, n.Obrazek_Pozadi));
+    Kresli_Pozadi();
 }
 
-// ---- Overview, web and help ----
-
-void frmMDITombi::mnuPrehled_Click() {
-    const QString cesta = Spoj_Cestu(Data_Relace.Nastaveni.Adresare[2], Soubor_Prehledu);
-    if (!QFileInfo::exists(cesta)) {
-        Zprava(u"Přehled souborů \""_qs + QDir::toNativeSeparators(cesta) +
-               u"\" zatím neexistuje. Vznikne s prvním uložením tipů se seznamem sázejících."_qs);
+void frmMDITombi::Kresli_Pozadi() {
+    const Nastaveni_Zaznam& n = Data_Relace.Nastaveni;
+    if (Obrazek_Pozadi.isNull()) {
+        Mdi_Plocha->setBackground(n.Vlastni_Pozadi != 0 ? frmKresleni::Barva_Z_Vb(n.Barva_Pozadi) : Nase_Pozadi);
         return;
     }
-    if (!Otevri_Adresu(QUrl::fromLocalFile(cesta)))
-        Zprava(u"Přehled souborů nelze zobrazit: v systému není program pro prohlížení textových souborů."_qs);
+    // The picture covers the whole area, cut at its edges rather than tiled.
+    Mdi_Plocha->setBackground(Obrazek_Pozadi.scaled(Mdi_Plocha->viewport()->size(), Qt::KeepAspectRatioByExpanding,
+                                                    Qt::SmoothTransformation));
 }
 
 void frmMDITombi::Otevri_Web(const QString& adresa) {
@@ -641,21 +552,5 @@ void frmMDITombi::Otevri_Web(const QString& adresa) {
     const bool spusteno =
         prohlizec.trimmed().isEmpty() ? Otevri_Adresu(QUrl(adresa)) : Spust_Program(prohlizec, {adresa});
     if (!spusteno)
-        Zprava(u"Chyba nastavení WEB prohlížeče nebo cesty \""_qs + prohlizec + u"\"."_qs);
-}
-
-void frmMDITombi::mnuWeb_Sazka_Click() {
-    Otevri_Web(Adresa_Sazky);
-}
-
-void frmMDITombi::mnuWebTombi_Click() {
-    Otevri_Web(Adresa_Tombi);
-}
-
-void frmMDITombi::mnuHelp_Click() {
-    Otevri_Okno<frmNapoveda>(Stranka_Napovedy);
-}
-
-void frmMDITombi::mnuOProgramu_Click() {
-    Otevri_Okno<frmOProgramu>(Data_Relace.Verze);
+        Sluzby_Okna->Zprava(u"Chyba nastavení WEB prohlížeče nebo cesty \""_qs + prohlizec + u"\"."_qs);
 }

@@ -1,25 +1,29 @@
 #pragma once
 // The frame of the program: the menus, the status band at the bottom and the MDI area in which
-// every other window opens, once, made on first use. It also keeps what every window shares on
-// the screen: the notice, the wait with the event pump, the status fields and the busy state.
+// every other window opens, once, made on first use. The frame keeps the registry of windows, the
+// enabling of commands, the draw day, the recent files and the commands that are its own. A
+// command that opens a window is connected by that window (its Pripoj_Prikazy), the commands of a
+// menu that opens none by that menu's file; the notice, the status band and the busy state are
+// the services of frmMDITombi_Sluzby, which windows reach through the session.
 
-#include "app/Prubeh.h"
-#include "app/frmMDITombi_Stav.h"
 #include "data/Archiv_Tahu.h"
-#include "data/Soubor_Tipu.h"
 
 #include <QMainWindow>
+#include <QMap>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPointer>
+#include <QSet>
 #include <array>
 #include <functional>
+#include <memory>
 
 class QAction;
 class QMenu;
 class QUrl;
 class Tabulka_Textu;
-class frmNeniProcedura;
+class frmMDITombi_Sluzby;
+class frmMDITombi_Stav;
 class frmTombi_uvod;
 struct Relace;
 
@@ -27,76 +31,74 @@ class frmMDITombi final : public QMainWindow {
     Q_OBJECT
 
 public:
-    // The session's seams (clock, dialogs, user settings) are set by whoever makes it.
+    // The session's seams (clock, dialogs, user settings) are set by whoever makes it; the frame
+    // puts its services into the session for its own life.
     explicit frmMDITombi(Relace& relace, QWidget* parent = nullptr);
     ~frmMDITombi() override;
 
     Relace& Sezeni() const { return Data_Relace; }
     QMdiArea* Plocha() const { return Mdi_Plocha; }
     frmMDITombi_Stav* Stav() const { return Pas_Stavu; }
+    frmMDITombi_Sluzby& Sluzby() const { return *Sluzby_Okna; }
 
     // The start of the program once the program's directory is in the session: version and
-    // title, splash, the date of the next draw, settings, recent files, the window's place, and
-    // the draw day of the weekday.
+    // title, splash, the date of the next draw, settings, recent files, the window's place (and
+    // its show), and the draw day of the weekday.
     void Start();
 
-    // The one window of class T: brought to the front if it is open, otherwise made from the
-    // arguments and added to the MDI area.
+    // ---- Windows ----
+
+    // The one window of class T: if it is open, it takes the arguments through its Prevezmi (when
+    // it has one) and comes to the front; otherwise it is made from them and added to the area.
     template <class T, class... A> T* Otevri_Okno(A&&... argumenty);
+    // The same, placed at the right edge of the inner area.
+    template <class T, class... A> T* Otevri_Okno_Vpravo(A&&... argumenty);
+    // A new window of class T outside the area, modal: returns once it is closed.
+    template <class T, class... A> void Ukaz_Modalne(A&&... argumenty);
     template <class T> T* Najdi_Okno() const;
-    // The windows open in the MDI area, in the order they were opened.
-    QList<QMdiSubWindow*> Otevrena_Okna() const;
-    // Closes the open window of that class, if any; false when it refused.
-    bool Zavri_Okno(const char* trida);
+    // Closes the open window of class T, if any; false when it refused.
+    template <class T> bool Zavri_Okno();
+    // The windows open in the area, in the order they were opened; one hidden for a moment counts.
+    QList<QWidget*> Otevrena_Okna() const;
     // Closes the open windows from the last opened down to index `od`; the main window is index 0,
     // so 1 leaves it alone.
     void Zavri_Formulare(int od);
-    // Clears the way for the analysis: the windows that must not stand beside it, and the picked
-    // numbers.
+    // Clears the way for the analysis: the windows that must not stand beside it, the notice, and
+    // the picked numbers.
     void Zavri_Pro_Analyzu();
 
-    // The common notice: it replaces the one on show and never holds the caller up.
-    void Zprava(const QString& text);
-    bool Pauza_Pred_Zpravou = false; // the notice comes 3 seconds late
-    QString Text_Zpravy;             // the text of the notice on show
-    // A pause with the event pump running, by the session's clock.
-    void Cekej(double sekundy);
-    void Nastav_Status(const QString& rozpis, const QString& pocet);
-    void Nastav_Aktivni_Poradi(const QString& text);
-    void Nastav_Soubor_Tipu(const QString& text) { Pas_Stavu->Nastav_Soubor_Tipu(text); }
-    // The busy state: the progress bar in place of the picked numbers, the hourglass, and the menu
-    // closed, so that no command starts inside a job.
-    void Zacni_Praci();
-    void Ukonci_Praci();
-    // The progress callback of the engines: moves PercentBar1, lets events run and answers false
-    // once a stop is asked for (Zrusit_Beh).
-    Prubeh Prubeh_Prace();
+    // ---- Commands ----
+
+    // Connects a command to what it does. Every mnu command is either connected or listed as not
+    // yet built, and a test holds the frame to that.
+    void Obsluz(QAction* prikaz, std::function<void()> obsluha);
+    bool Ma_Obsluhu(const QAction* prikaz) const { return Obsluhovane.contains(prikaz); }
+    bool Je_Nehotovy(const QAction* prikaz) const;
+    // A lock keeps the commands for which it answers true off while it stands: the password wait,
+    // a window's own rules. An empty lock takes the one of that name away.
+    using Zamek = std::function<bool(const QAction* prikaz)>;
+    void Nastav_Zamek(const QString& jmeno, Zamek zamek);
+    // The one place that sets the enabled state of every command: not built yet, the archive of
+    // the day missing, a lock, a running job.
+    void Obnov_Povoleni();
+
+    // ---- Draw day ----
 
     // Switches the draw day and loads its archive; a day without an archive leaves the status field
     // empty and the commands of the archive disabled until a later load succeeds.
     void Prepni_Den(Den den);
     bool Bez_Tahu() const { return Chybi_Tahy; }
 
-    // Opens a tip file into the store and takes it as the open file. A refusal is told by Zprava.
-    void Otevri_Soubor_Tipu(const QString& cesta, Otevreni otevreni);
-    // Forgets the open tip file: no active tips, no name, "0 tipů".
-    void Zapomen_Soubor_Tipu();
+    // ---- Recent files, background, other programs ----
 
     // Recent files, druh Druh_Tipy or Druh_Seznamy: the name goes first in the list, the menu is
     // rebuilt and the settings are written.
     void Pridej_Nedavny(int druh, const QString& jmeno);
     void Naplnit_Menu_Nedavnych(int druh);
-
-    // The common dialogs: typ 0 open, 1 save (jmeno proposed), 2 printer, 3 and 4 the first and the
-    // second font of the settings. `jmeno` receives the chosen path. On cancel `vysledek` is false and
-    // the current directory returns to the data directory.
-    void Otevri_Dialog(int typ, const QString& filtr, const QString& nazev, QString& jmeno, const QString& sloz,
-                       bool& vysledek);
-
-    // Sets the enabled state of every command: what needs a window still to come, and what needs
-    // the archive of the day while there is none.
-    void Obnov_Povoleni();
-
+    // The inner area's background from the settings: the picture, the user's own colour or ours.
+    void Nastav_Pozadi();
+    // Starts the browser of the settings, or the system's, on an address; a failure is told.
+    void Otevri_Web(const QString& adresa);
     // How an address and another program are started; tests put their own in.
     std::function<bool(const QUrl&)> Otevri_Adresu;
     std::function<bool(const QString&, const QStringList&)> Spust_Program;
@@ -154,48 +156,56 @@ protected:
 
 private:
     void Vytvor_Menu();
-    QAction* Prikaz(QMenu* menu, const QString& jmeno, void (frmMDITombi::*obsluha)() = nullptr);
+    QAction* Prikaz(QMenu* menu, const QString& jmeno);
     void Nastav_Texty(const Tabulka_Textu& texty);
+    void Kresli_Pozadi();
     void Umisti_Okno();
     void Uloz_Misto_Okna();
-    void Ukaz_V_Plose(QWidget* okno);
-    void Po_Skryti_Okna(QWidget* okno);
-    void Otevri_Web(const QString& adresa);
-
-    void mnuSportka_streda_Click();
-    void mnuSportka_nedele_Click();
-    void mnuRecentFile_Click(int index);
-    void mnuOtevriSouborTipu_Click();
-    void mnuKonverzeSouboruTipu_Click();
-    void mnuAktualizaceTahu_Click();
-    void mnuObnovaDatTahu_Click();
-    void mnuWeb_Sazka_Click();
-    void mnuPrehled_Click();
-    void mnuHelp_Click();
-    void mnuWebTombi_Click();
-    void mnuOProgramu_Click();
+    void Ukaz_V_Plose(QWidget* okno, bool vpravo);
+    void Ukaz_Modalne(QWidget* okno);
+    void Po_Skryti_Okna(QWidget* okno, bool zavreno);
+    QWidget* Najdi_Okno(const QMetaObject& trida) const;
+    bool Zavri(QWidget* okno);
 
     Relace& Data_Relace;
     QMdiArea* Mdi_Plocha;
     frmMDITombi_Stav* Pas_Stavu;
-    QPointer<frmNeniProcedura> Oznameni;
+    std::unique_ptr<frmMDITombi_Sluzby> Sluzby_Okna;
     QPointer<frmTombi_uvod> Uvod;
+    QList<QPointer<QWidget>> Modalni_Okna;
+    QSet<const QAction*> Obsluhovane;
+    QMap<QString, Zamek> Zamky;
+    QPixmap Obrazek_Pozadi;
     bool Chybi_Tahy = false;
-    int Hloubka_Prace = 0; // busy states inside one another
     bool Zavreno = false;
 };
 
 template <class T> T* frmMDITombi::Najdi_Okno() const {
-    for (QMdiSubWindow* okno : Otevrena_Okna())
-        if (auto* hledane = qobject_cast<T*>(okno->widget()))
-            return hledane;
-    return nullptr;
+    return static_cast<T*>(Najdi_Okno(T::staticMetaObject));
+}
+
+template <class T> bool frmMDITombi::Zavri_Okno() {
+    QWidget* okno = Najdi_Okno(T::staticMetaObject);
+    return okno == nullptr || Zavri(okno);
 }
 
 template <class T, class... A> T* frmMDITombi::Otevri_Okno(A&&... argumenty) {
     T* okno = Najdi_Okno<T>();
     if (okno == nullptr)
         okno = new T(std::forward<A>(argumenty)...);
-    Ukaz_V_Plose(okno);
+    else if constexpr (requires(T& t, A&&... a) { t.Prevezmi(std::forward<A>(a)...); })
+        okno->Prevezmi(std::forward<A>(argumenty)...);
+    Ukaz_V_Plose(okno, false);
     return okno;
+}
+
+template <class T, class... A> T* frmMDITombi::Otevri_Okno_Vpravo(A&&... argumenty) {
+    T* okno = Otevri_Okno<T>(std::forward<A>(argumenty)...);
+    Ukaz_V_Plose(okno, true);
+    return okno;
+}
+
+template <class T, class... A> void frmMDITombi::Ukaz_Modalne(A&&... argumenty) {
+    Zavri_Okno<T>();
+    Ukaz_Modalne(new T(std::forward<A>(argumenty)...));
 }

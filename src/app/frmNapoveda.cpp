@@ -1,6 +1,7 @@
 #include "app/frmNapoveda.h"
 
 #include "app/Tabulka_Textu.h"
+#include "app/frmMDITombi.h"
 #include "app/modTombi.h"
 
 #include <QFile>
@@ -121,4 +122,8 @@ void frmNapoveda::Po_Zmene_Stranky(const QUrl&) {
         setWindowTitle(titulek.isEmpty() ? okno : titulek);
     else
         setWindowTitle(okno + u" – "_qs + titulek);
+}
+
+void frmNapoveda::Pripoj_Prikazy(frmMDITombi& ram) {
+    ram.Obsluz(ram.mnuHelp, [&ram] { ram.Otevri_Okno<frmNapoveda>(Uvodni_Stranka); });
 }

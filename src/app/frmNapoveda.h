@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QPushButton;
+class frmMDITombi;
 class QTextBrowser;
 class QUrl;
 
@@ -21,6 +22,10 @@ public:
     static QString Stranka_Podle_Klice(const QString& klic);
 
     void Ukaz_Stranku(const QString& stranka);
+    // Opened again with another page: that page is shown.
+    void Prevezmi(const QString& stranka) { Ukaz_Stranku(stranka); }
+    // mnuHelp opens the contents page.
+    static void Pripoj_Prikazy(frmMDITombi& ram);
     QSize sizeHint() const override;
 
 private:

@@ -1,11 +1,12 @@
 #include "app/frmOProgramu.h"
 
+#include "app/Relace.h"
 #include "app/Tabulka_Textu.h"
+#include "app/frmMDITombi.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -76,13 +77,10 @@ frmOProgramu::frmOProgramu(const QString& verze, QWidget* parent)
     constexpr int Sirka = 420;
     setFixedSize(Sirka, rozlozeni->hasHeightForWidth() ? rozlozeni->totalHeightForWidth(Sirka) : sizeHint().height());
 
-    connect(cmdOK, &QPushButton::clicked, this, &frmOProgramu::Zavri);
+    connect(cmdOK, &QPushButton::clicked, this, &QWidget::close);
 }
 
-void frmOProgramu::Zavri() {
-    // Inside the frame the window sits in an MDI sub-window, which is what must close.
-    if (auto* ram = qobject_cast<QMdiSubWindow*>(parentWidget()))
-        ram->close();
-    else
-        close();
+void frmOProgramu::Pripoj_Prikazy(frmMDITombi& ram) {
+    ram.Obsluz(ram.mnuOProgramu, [&ram] { ram.Otevri_Okno<frmOProgramu>(ram.Sezeni().Verze); });
+    ram.Obsluz(ram.mnuWebTombi, [&ram] { ram.Otevri_Web(Domovska_Stranka); });
 }

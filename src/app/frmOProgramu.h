@@ -5,6 +5,7 @@
 
 class QLabel;
 class QPushButton;
+class frmMDITombi;
 
 class frmOProgramu final : public QWidget {
     Q_OBJECT
@@ -13,10 +14,10 @@ public:
     explicit frmOProgramu(const QString& verze, QWidget* parent = nullptr);
 
     static inline const QString Domovska_Stranka = QStringLiteral("https://www.tombi.cz");
+    // mnuOProgramu opens the window, mnuWebTombi the home page in the browser.
+    static void Pripoj_Prikazy(frmMDITombi& ram);
 
 private:
-    void Zavri();
-
     QLabel* lblNazev;
     QLabel* lblPodtitul;
     QLabel* lblVerze;

@@ -7,7 +7,7 @@
 #include <QLineEdit>
 #include <QTimer>
 
-namespace frmOvladani {
+namespace modNastaveni_Ovladani {
 
 namespace {
 
@@ -53,4 +53,4 @@ void Napoveda(QWidget* okno, const QString& klic) {
         okno->setProperty("Napoveda", modTombi::Napoveda(klic));
 }
 
-} // namespace frmOvladani
+} // namespace modNastaveni_Ovladani

@@ -1,12 +1,13 @@
 #pragma once
-// Small helpers for the controls of any window: selecting a box's text on entry, the even/odd
-// labels, the help context.
+// modNastaveni_Ovladani: small helpers for the controls of any window: selecting a box's text on
+// entry, the even/odd labels, the help context. The key filter Filtr_Klavesy and the table of help
+// keys need no window and live in modTombi.
 
 class QLineEdit;
 class QString;
 class QWidget;
 
-namespace frmOvladani {
+namespace modNastaveni_Ovladani {
 
 // Selects the whole text of the box.
 void Vyber_Text(QLineEdit* pole);
@@ -17,4 +18,4 @@ void Zobraz_Suda_Licha(QWidget* okno, int suda, int licha);
 // Stores the window's help context number by its key in the property "Napoveda".
 void Napoveda(QWidget* okno, const QString& klic);
 
-} // namespace frmOvladani
+} // namespace modNastaveni_Ovladani

@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <QRadialGradient>
 #include <QScreen>
+#include <QTimer>
 
 #include <array>
 #include <cmath>
@@ -51,18 +52,53 @@ void Nakresli_Kouli(QPainter& kreslic, QPointF stred, double polomer, const QCol
 
 } // namespace
 
-frmTombi_uvod::frmTombi_uvod(const QString& verze)
-    : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint), Text_Verze(verze) {
+frmTombi_uvod::frmTombi_uvod(const QString& verze, QWidget* hlavni_okno)
+    : QWidget(hlavni_okno, Qt::Tool | Qt::FramelessWindowHint), Text_Verze(verze), Casovac(new QTimer(this)) {
     setObjectName(u"frmTombi_uvod"_qs);
     setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setFocusPolicy(Qt::StrongFocus);
     setFixedSize(Sirka, Vyska);
     setMask(QRegion(Tvar().toFillPolygon().toPolygon()));
 
-    const QScreen* obrazovka = QGuiApplication::primaryScreen();
-    if (obrazovka != nullptr) {
-        const QRect plocha = obrazovka->geometry();
-        move(plocha.x() + (plocha.width() - width()) / 2, plocha.y() + (plocha.height() - height()) / 2);
+    Casovac->setObjectName(u"Casovac"_qs);
+    Casovac->setSingleShot(true);
+    Casovac->setInterval(Doba_Zobrazeni_Ms);
+    connect(Casovac, &QTimer::timeout, this, &QWidget::close);
+
+    if (hlavni_okno != nullptr) {
+        Vycentruj(*hlavni_okno);
+    } else if (const QScreen* obrazovka = QGuiApplication::primaryScreen()) {
+        Vycentruj_Na(obrazovka->geometry());
     }
+}
+
+void frmTombi_uvod::Vycentruj(const QWidget& okno) {
+    const QWidget& hlavni = *okno.window();
+    if (hlavni.isVisible() || hlavni.testAttribute(Qt::WA_Moved)) {
+        Vycentruj_Na(hlavni.frameGeometry());
+        return;
+    }
+    const QScreen* obrazovka = hlavni.screen() != nullptr ? hlavni.screen() : QGuiApplication::primaryScreen();
+    if (obrazovka != nullptr)
+        Vycentruj_Na(obrazovka->geometry());
+}
+
+void frmTombi_uvod::Vycentruj_Na(const QRect& plocha) {
+    move(plocha.x() + (plocha.width() - width()) / 2, plocha.y() + (plocha.height() - height()) / 2);
+}
+
+void frmTombi_uvod::showEvent(QShowEvent* udalost) {
+    QWidget::showEvent(udalost);
+    Casovac->start();
+}
+
+void frmTombi_uvod::mousePressEvent(QMouseEvent*) {
+    close();
+}
+
+void frmTombi_uvod::keyPressEvent(QKeyEvent*) {
+    close();
 }
 
 void frmTombi_uvod::paintEvent(QPaintEvent*) {

@@ -4,14 +4,21 @@
 // entry in the list below.
 
 #include "Prostredi_Okna.h"
+#include "app/Sluzby_Oken.h"
+#include "app/frmMDITombi_Sluzby.h"
 #include "app/frmNapoveda.h"
 #include "app/frmNeniProcedura.h"
 #include "app/frmOProgramu.h"
+#include "app/frmPrehled.h"
 #include "app/frmTombi_uvod.h"
+#include "data/Chyby_A_Prehled.h"
 #include "data/Soubory.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -25,6 +32,36 @@ struct Snimek {
     QString Jmeno;
     std::function<QWidget*(QWidget* hlavni)> Otevri;
 };
+
+// The start on a Thursday without the Sunday archive, as the screen shows it: the main window,
+// the splash and the notice over it, each painted where it stands.
+QWidget* Start_Bez_Archivu() {
+    Prostredi prostredi(QDate(2026, 11, 26));
+    QFile::remove(prostredi.Cesta(u"SpN_tahy.sez"_qs));
+    frmMDITombi& okno = prostredi.Spust();
+    if (!QTest::qWaitForWindowExposed(&okno))
+        return nullptr;
+    QPixmap obraz = okno.grab();
+    QPainter kreslic(&obraz);
+    kreslic.setRenderHint(QPainter::Antialiasing);
+    QWidget* uvod = okno.findChild<frmTombi_uvod*>();
+    for (QWidget* nad : {uvod, static_cast<QWidget*>(okno.Sluzby().Oznameni())}) {
+        if (nad == nullptr || !nad->isVisible())
+            continue;
+        QPixmap vrstva(nad->size());
+        vrstva.fill(Qt::transparent);
+        nad->render(&vrstva, {}, {}, QWidget::DrawChildren);
+        if (!nad->mask().isEmpty())
+            kreslic.setClipRegion(nad->mask().translated(okno.mapFromGlobal(nad->pos())));
+        kreslic.drawPixmap(okno.mapFromGlobal(nad->pos()), vrstva);
+        kreslic.setClipping(false);
+    }
+    kreslic.end();
+    auto* snimek = new QLabel;
+    snimek->setPixmap(obraz);
+    snimek->resize(obraz.size());
+    return snimek;
+}
 
 } // namespace
 
@@ -47,8 +84,19 @@ int main(int argc, char** argv) {
                                          u"Bez něj nelze zjistit, kdy číslo padlo naposledy ani kolikrát."_qs,
                                          h);
          }},
+        {u"Start_Bez_Archivu"_qs, [](QWidget*) { return Start_Bez_Archivu(); }},
         {u"frmTombi_uvod"_qs, [](QWidget*) -> QWidget* { return new frmTombi_uvod(QStringLiteral(TOMBI_VERZE)); }},
         {u"frmNapoveda"_qs, [](QWidget*) -> QWidget* { return new frmNapoveda(u"index.html"_qs); }},
+        {u"frmPrehled"_qs,
+         [](QWidget*) -> QWidget* {
+             static QTemporaryDir slozka;
+             const QDateTime kdy(QDate(2026, 11, 24), QTime(18, 2));
+             Pridej_Do_Prehledu(slozka.path(), u"261124_30.tip"_qs, u"Rodina.szn"_qs, kdy);
+             Pridej_Do_Prehledu(slozka.path(), u"S_261126_12.tip"_qs, u"Kolegové z práce.szn"_qs, kdy.addDays(2));
+             Pridej_Do_Prehledu(slozka.path(), u"S_261129_50.tip"_qs, u"Šťastná sedmička.szn"_qs, kdy.addDays(5));
+             const QString cesta = slozka.filePath(Soubor_Prehledu);
+             return new frmPrehled(cesta);
+         }},
         {u"frmOProgramu"_qs, [](QWidget*) -> QWidget* { return new frmOProgramu(QStringLiteral(TOMBI_VERZE)); }},
         // The frame as a user meets it on a Thursday evening: the Sunday archive and a tip file open.
         {u"frmMDITombi"_qs,
@@ -57,7 +105,7 @@ int main(int argc, char** argv) {
              Uloz_Soubor(prostredi.Cesta(u"251126_24.tip"_qs), Soubor_Tipu(24));
              prostredi.Spust();
              prostredi.Otevri_Tipy(u"251126_24.tip"_qs);
-             prostredi.Okno->Nastav_Status(u" 3 11 19 27 36 44"_qs, u"6"_qs);
+             prostredi.Data->Sluzby->Nastav_Status(u" 3 11 19 27 36 44"_qs, u"6"_qs);
              return prostredi.Okno.release();
          }},
     };
@@ -71,6 +119,11 @@ int main(int argc, char** argv) {
     int chyby = 0;
     for (const Snimek& snimek : snimky) {
         std::unique_ptr<QWidget> okno(snimek.Otevri(&hlavni));
+        if (okno == nullptr) {
+            qWarning("%s: okno se neotevřelo", qPrintable(snimek.Jmeno));
+            ++chyby;
+            continue;
+        }
         okno->show();
         const bool ukazano = QTest::qWaitForWindowExposed(okno.get());
         const QImage obraz = okno->grab().toImage();

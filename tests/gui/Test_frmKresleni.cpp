@@ -47,7 +47,7 @@ private slots:
             {
                 QPainter kreslic(&obrazek);
                 // 7 is row 1, column 1: its cell starts at 467, 477 twips.
-                frmKresleni::Nakresli_Krizek(kreslic, 7, 12, 2);
+                modTombi::Nakresli_Krizek(kreslic, 7, 12, 2);
             }
             QCOMPARE(Bod(obrazek, 467 + 75, 477 + 75), cervena);            // the middle
             QCOMPARE(Bod(obrazek, 467 + 20, 477 + 20), cervena);            // one arm
@@ -63,8 +63,8 @@ private slots:
         // The corners of the grid: 1 top left, 49 in the last row's fourth cell.
         QImage obrazek = Obrazek(96);
         QPainter kreslic(&obrazek);
-        frmKresleni::Nakresli_Krizek(kreslic, 1, 1, 1);
-        frmKresleni::Nakresli_Krizek(kreslic, 49, 1, 1);
+        modTombi::Nakresli_Krizek(kreslic, 1, 1, 1);
+        modTombi::Nakresli_Krizek(kreslic, 49, 1, 1);
         kreslic.end();
         QCOMPARE(Bod(obrazek, 120 + 75, 130 + 75), qRgb(0, 0, 128));
         QCOMPARE(Bod(obrazek, 3 * 347 + 120 + 75, 9 * 347 + 130 + 75), qRgb(0, 0, 128));
@@ -74,8 +74,8 @@ private slots:
         QImage obrazek = Obrazek(96);
         QPainter kreslic(&obrazek);
         for (int cislo : {0, 50, -3})
-            frmKresleni::Nakresli_Krizek(kreslic, cislo, 0, 3);
-        frmKresleni::Nakresli_Ramecek(kreslic, 300, 300, Qt::black, 3, 3);
+            modTombi::Nakresli_Krizek(kreslic, cislo, 0, 3);
+        modTombi::Nakresli_Ramecek(kreslic, 300, 300, Qt::black, 3, 3);
         kreslic.end();
         QVERIFY(Pomalovano(obrazek).isNull());
     }
@@ -86,11 +86,11 @@ private slots:
         QImage ramecek = Obrazek(144);
         {
             QPainter kreslic(&krizek);
-            frmKresleni::Nakresli_Ramecek(kreslic, 400, 600, QColor(modra), 1, 2);
+            modTombi::Nakresli_Ramecek(kreslic, 400, 600, QColor(modra), 1, 2);
         }
         {
             QPainter kreslic(&ramecek);
-            frmKresleni::Nakresli_Ramecek(kreslic, 400, 600, QColor(modra), 2, 2);
+            modTombi::Nakresli_Ramecek(kreslic, 400, 600, QColor(modra), 2, 2);
         }
         // A cross has its middle drawn and the middle of its sides empty; a frame the reverse.
         QCOMPARE(Bod(krizek, 500, 700), modra);

@@ -7,6 +7,10 @@
 #include "Prostredi_Okna.h"
 #include "app/Relace.h"
 #include "app/frmMDITombi.h"
+#include "app/frmMDITombi_Sluzby.h"
+#include "app/frmMDITombi_Stav.h"
+#include "app/frmMDITombi_Tipy.h"
+#include "app/frmTombi_uvod.h"
 #include "app/frmNapoveda.h"
 #include "app/frmNeniProcedura.h"
 #include "app/frmOProgramu.h"
@@ -16,17 +20,20 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QUrl>
 #include <memory>
@@ -106,8 +113,12 @@ private slots:
         nastaveni.Okno_Horni = 1200;
         nastaveni.Okno_Sirka = 9000;
         nastaveni.Okno_Vyska = 6900;
+        nastaveni.Bez_Pozadi = 1;
+        nastaveni.Vlastni_Pozadi = 1;
+        nastaveni.Barva_Pozadi = 0x0000FF;
         Zapis_Souboru(prostredi.Cesta(u"tombi.cfg"_qs), Zapis_Nastaveni(nastaveni));
         frmMDITombi& okno = prostredi.Spust();
+        QCOMPARE(okno.Plocha()->background().color(), QColor(255, 0, 0));
         QCOMPARE(okno.geometry(),
                  QRect(Pixely(1500, okno), Pixely(1200, okno), Pixely(9000, okno), Pixely(6900, okno)));
         okno.move(okno.x() + 30, okno.y());
@@ -179,6 +190,12 @@ private slots:
         QCOMPARE(prostredi.Nedavne().mid(0, 6), (QStringList{u"1.  t5.tip"_qs, u"2.  t9.tip"_qs, u"3.  t8.tip"_qs,
                                                              u"4.  t7.tip"_qs, u"5.  t6.tip"_qs, u"6.  t4.tip"_qs}));
 
+        // A file gone from the folder: the notice says where it was looked for.
+        QFile::remove(prostredi.Cesta(u"t9.tip"_qs));
+        prostredi.Prikaz(u"mnuRecentFile(2)"_qs)->trigger();
+        QCOMPARE(prostredi.Oznameni(), QStringList{u"Soubor \"t9.tip\" nebyl nalezen ve složce tipů \""_qs +
+                                                   QDir::toNativeSeparators(prostredi.Slozka.path()) + u"/\"."_qs});
+
         Zapis_Souboru(prostredi.Cesta(u"aa.tip"_qs), Soubor_Tipu(2));
         Zapis_Souboru(prostredi.Cesta(u"a.tip"_qs), Soubor_Tipu(2));
         prostredi.Otevri_Tipy(u"aa.tip"_qs);
@@ -227,7 +244,7 @@ private slots:
         QVERIFY(okno.menuBar()->isEnabled());
 
         // Forgetting the file: "0 tipů" stands as it is set, no stake.
-        okno.Zapomen_Soubor_Tipu();
+        frmMDITombi_Tipy::Zapomen_Soubor_Tipu(*prostredi.Data);
         QCOMPARE(pocet->text(), u"0 tipů"_qs);
         QCOMPARE(prostredi.Data->Tikety.Vklad, Vb::Mena());
     }
@@ -235,16 +252,17 @@ private slots:
     void Zpravy_A_Kliknuti() {
         Prostredi prostredi(Ctvrtek);
         frmMDITombi& okno = prostredi.Spust();
-        okno.Zprava(u"první"_qs);
-        okno.Zprava(u"druhá"_qs);
+        frmMDITombi_Sluzby& sluzby = okno.Sluzby();
+        sluzby.Zprava(u"první"_qs);
+        sluzby.Zprava(u"druhá"_qs);
         QCOMPARE(prostredi.Oznameni(), QStringList{u"druhá"_qs});
-        QCOMPARE(okno.Text_Zpravy, u"druhá"_qs);
+        QCOMPARE(sluzby.Text_Zpravy, u"druhá"_qs);
 
         // A late notice lets events run while it waits.
         bool probehlo = false;
         QTimer::singleShot(0, &okno, [&probehlo] { probehlo = true; });
-        okno.Pauza_Pred_Zpravou = true;
-        okno.Zprava(u"pozdě"_qs);
+        sluzby.Pauza_Pred_Zpravou = true;
+        sluzby.Zprava(u"pozdě"_qs);
         QVERIFY(probehlo);
         QCOMPARE(prostredi.Oznameni(), QStringList{u"pozdě"_qs});
 
@@ -264,7 +282,8 @@ private slots:
         auto* obrazek = prostredi.Prvek<QFrame>(u"Picture1"_qs);
         auto* prubeh = prostredi.Prvek<QProgressBar>(u"PercentBar1"_qs);
 
-        okno.Nastav_Status(u"5 12 17 33"_qs, u"4"_qs);
+        Sluzby_Oken& sluzby = *prostredi.Data->Sluzby;
+        sluzby.Nastav_Status(u"5 12 17 33"_qs, u"4"_qs);
         QCOMPARE(prostredi.Data->Pocet_Sudych, 1);
         QCOMPARE(prostredi.Data->Pocet_Lichych, 2);
         QCOMPARE(rozpis->geometry().right() + 1 + Pixely(30, okno), rozpis->parentWidget()->width());
@@ -273,11 +292,12 @@ private slots:
         QVERIFY(pocet->text().isEmpty());
         QCOMPARE(prostredi.Data->Pocet_Lichych, 0);
 
-        okno.Zacni_Praci();
+        sluzby.Zacni_Praci();
         QVERIFY(!obrazek->isHidden());
         QVERIFY(rozpis->isHidden());
         QVERIFY(!okno.menuBar()->isEnabled());
-        const Prubeh hlaseni = okno.Prubeh_Prace();
+        QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        const Prubeh hlaseni = sluzby.Prubeh_Prace();
         QVERIFY(hlaseni(40));
         QCOMPARE(prubeh->value(), 40);
         QTest::mouseClick(prubeh, Qt::LeftButton);
@@ -285,10 +305,72 @@ private slots:
         QCOMPARE(int(prostredi.Data->Nastaveni.Styl_Prubehu), 1);
         prostredi.Data->Tikety.Zrusit_Beh = true;
         QVERIFY(!hlaseni(41));
-        okno.Ukonci_Praci();
-        QVERIFY(obrazek->isHidden());
-        QVERIFY(!rozpis->isHidden());
-        QVERIFY(okno.menuBar()->isEnabled());
+        // A caller that enters once more than it leaves: one end is the end.
+        sluzby.Zacni_Praci();
+        sluzby.Ukonci_Praci();
+        const auto volno = [&] {
+            return obrazek->isHidden() && !rozpis->isHidden() && okno.menuBar()->isEnabled() &&
+                   QApplication::overrideCursor() == nullptr && !sluzby.Pracuje();
+        };
+        QVERIFY(volno());
+        // A job inside a job keeps the state until the outer one ends, also on an early return.
+        {
+            const Prace vnejsi(&sluzby);
+            { const Prace vnitrni(&sluzby); }
+            QVERIFY(sluzby.Pracuje());
+            QVERIFY(!okno.menuBar()->isEnabled());
+        }
+        QVERIFY(volno());
+    }
+
+    void Povoleni_A_Zamky() {
+        Prostredi prostredi(Ctvrtek);
+        frmMDITombi& okno = prostredi.Spust();
+        // Every command is either connected or waits for its window, never both, never neither.
+        for (QAction* prikaz : okno.findChildren<QAction*>()) {
+            const QString jmeno = prikaz->objectName();
+            if (!jmeno.startsWith(u"mnu"_qs) || prikaz->isSeparator() || prikaz->menu() != nullptr)
+                continue;
+            QVERIFY2(okno.Ma_Obsluhu(prikaz) != okno.Je_Nehotovy(prikaz), qPrintable(jmeno));
+            QVERIFY2(!prikaz->isVisible() || prikaz->isEnabled() != okno.Je_Nehotovy(prikaz), qPrintable(jmeno));
+        }
+        // A lock holds over a switch of day, which enables the commands of the archive anew.
+        okno.Nastav_Zamek(u"test"_qs, [&okno](const QAction* prikaz) { return prikaz == okno.mnuObnovaDatTahu; });
+        okno.Prepni_Den(Den::Streda);
+        QVERIFY(!okno.mnuObnovaDatTahu->isEnabled());
+        QVERIFY(okno.mnuAktualizaceTahu->isEnabled());
+        okno.Nastav_Zamek(u"test"_qs, {});
+        QVERIFY(okno.mnuObnovaDatTahu->isEnabled());
+    }
+
+    void Start_Bez_Archivu() {
+        Prostredi prostredi(Ctvrtek);
+        QFile::remove(prostredi.Cesta(u"SpN_tahy.sez"_qs));
+        frmMDITombi& okno = prostredi.Spust();
+        auto* uvod = okno.findChild<frmTombi_uvod*>();
+        QVERIFY(uvod != nullptr && uvod->isVisible());
+        QVERIFY(!(uvod->windowFlags() & Qt::WindowStaysOnTopHint));
+        const frmNeniProcedura* oznameni = okno.Sluzby().Oznameni();
+        QVERIFY(oznameni != nullptr && oznameni->isVisible());
+        // The notice stands over the splash where the two meet.
+        QCOMPARE(QApplication::topLevelAt(oznameni->geometry().center()), oznameni);
+        QTest::keyClick(&okno, Qt::Key_Escape);
+        QVERIFY(!uvod->isVisible());
+    }
+
+    void Maximalizovane_Okno() {
+        Prostredi prostredi(Ctvrtek);
+        frmMDITombi* okno = &prostredi.Spust();
+        const QRect normalni = okno->geometry();
+        okno->showMaximized();
+        QVERIFY(okno->close());
+        QCOMPARE(prostredi.Ulozene_Nastaveni().Okno_Sirka, Twipy(normalni.width(), *okno));
+        // The next start comes maximised over the same normal place.
+        prostredi.Okno.reset();
+        okno = &prostredi.Spust();
+        QVERIFY(okno->isMaximized());
+        okno->showNormal();
+        QCOMPARE(okno->size(), normalni.size());
     }
 
     void Aktualizace_Tahu() {
@@ -305,7 +387,9 @@ private slots:
         const QByteArray dbf = QByteArray(545, ' ') + " 2025" + "01" + "01020304050607" + "08091011121314" + " 2025" +
                                "02" + "21222324252627" + "28293031323334";
         Zapis_Souboru(prostredi.Cesta(u"sportka-nedele.dbf"_qs), dbf);
+        okno.Sluzby().Zavri_Oznameni();
         prostredi.Prikaz(u"mnuAktualizaceTahu"_qs)->trigger();
+        QVERIFY(prostredi.Oznameni().isEmpty());
         QCOMPARE(prostredi.Data->Archiv.Pocet_Let, 1);
         QCOMPARE(prostredi.Data->Archiv.Pocet_Tahy_1, 2);
         QCOMPARE(int(prostredi.Data->Tikety.Pocet_Tahu_2), 2);
@@ -327,13 +411,15 @@ private slots:
         };
         prostredi.Prikaz(u"mnuPrehled"_qs)->trigger();
         QVERIFY(prostredi.Oznameni().first().contains(u"zatím neexistuje"_qs));
-        Zapis_Souboru(prostredi.Cesta(u"_Prehled.txt"_qs), "x");
+        // The overview opens in a window of the program, decoded from code page 1250.
+        Zapis_Souboru(prostredi.Cesta(u"_Prehled.txt"_qs), "Tipy: a.tip  Seznam: \x8E" "an.szn\r\n");
         prostredi.Prikaz(u"mnuPrehled"_qs)->trigger();
+        QCOMPARE(prostredi.Prvek<QPlainTextEdit>(u"txtPrehled"_qs)->toPlainText().trimmed(),
+                 u"Tipy: a.tip  Seznam: Žan.szn"_qs);
         prostredi.Prikaz(u"mnuWeb_Sazka"_qs)->trigger();
         prostredi.Data->Nastaveni.Adresare[5] = u"/nikde/prohlizec"_qs;
         prostredi.Prikaz(u"mnuWebTombi"_qs)->trigger();
-        QCOMPARE(spusteno, (QStringList{QUrl::fromLocalFile(prostredi.Cesta(u"_Prehled.txt"_qs)).toString(),
-                                        u"https://www.sazka.cz"_qs, u"/nikde/prohlizec https://www.tombi.cz"_qs}));
+        QCOMPARE(spusteno, (QStringList{u"https://www.sazka.cz"_qs, u"/nikde/prohlizec https://www.tombi.cz"_qs}));
         QCOMPARE(prostredi.Oznameni(),
                  QStringList{u"Chyba nastavení WEB prohlížeče nebo cesty \"/nikde/prohlizec\"."_qs});
     }
@@ -354,7 +440,7 @@ private slots:
         QVERIFY(okno.Najdi_Okno<frmOProgramu>() != nullptr);
         QCOMPARE(okno.Plocha()->activeSubWindow()->widget(), okno.Najdi_Okno<frmOProgramu>());
 
-        okno.Nastav_Status(u"1 2 3"_qs, u"3"_qs);
+        okno.Sluzby().Nastav_Status(u"1 2 3"_qs, u"3"_qs);
         okno.Zavri_Pro_Analyzu();
         QCOMPARE(otevrena(), 1);
         QVERIFY(okno.Najdi_Okno<frmNapoveda>() != nullptr);
@@ -367,15 +453,49 @@ private slots:
         okno.Zavri_Formulare(1);
         QCOMPARE(otevrena(), 0);
 
-        // A window that closes itself takes its frame in the area with it; a minimised one stays.
+        // A window that closes itself takes its frame in the area with it; a minimised one stays,
+        // and so does one that hides itself for a moment, with its state.
         prostredi.Prikaz(u"mnuHelp"_qs)->trigger();
         okno.Plocha()->activeSubWindow()->showMinimized();
         QCoreApplication::processEvents();
         QCOMPARE(otevrena(), 1);
-        okno.Najdi_Okno<frmNapoveda>()->parentWidget()->showNormal();
-        okno.Najdi_Okno<frmNapoveda>()->close();
+        auto* napoveda = okno.Najdi_Okno<frmNapoveda>();
+        napoveda->parentWidget()->showNormal();
+        napoveda->Ukaz_Stranku(u"tahy.html"_qs);
+        napoveda->hide();
         QCoreApplication::processEvents();
         QCOMPARE(otevrena(), 0);
+        QCOMPARE(okno.Najdi_Okno<frmNapoveda>(), napoveda);
+        napoveda->show();
+        QCOMPARE(otevrena(), 1);
+        QVERIFY(napoveda->findChild<QTextBrowser*>()->source().toString().endsWith(u"tahy.html"_qs));
+        // Opened again, the open window takes the new arguments.
+        okno.Otevri_Okno<frmNapoveda>(u"tipy.html"_qs);
+        QVERIFY(napoveda->findChild<QTextBrowser*>()->source().toString().endsWith(u"tipy.html"_qs));
+        napoveda->close();
+        QCoreApplication::processEvents();
+        QCOMPARE(otevrena(), 0);
+        QVERIFY(okno.Najdi_Okno<frmNapoveda>() == nullptr);
+
+        // At the right edge of the area; of a fixed size, without a maximise button.
+        auto* vpravo = okno.Otevri_Okno_Vpravo<frmOProgramu>(u"2.0"_qs);
+        const QMdiSubWindow* ram = okno.Plocha()->activeSubWindow();
+        QCOMPARE(ram->geometry().right() + 1, okno.Plocha()->viewport()->width());
+        QVERIFY(!(ram->windowFlags() & Qt::WindowMaximizeButtonHint));
+        QCOMPARE(ram->minimumSize(), ram->maximumSize());
+        QVERIFY(okno.Zavri_Okno<frmOProgramu>());
+        Q_UNUSED(vpravo);
+
+        // Modal: the call returns once the window is closed, and the window is found meanwhile.
+        bool nalezeno = false;
+        QTimer::singleShot(0, &okno, [&] {
+            auto* modalni = okno.Najdi_Okno<frmOProgramu>();
+            nalezeno = modalni != nullptr && modalni->isModal() && modalni->isWindow();
+            okno.Zavri_Formulare(1);
+        });
+        okno.Ukaz_Modalne<frmOProgramu>(u"2.0"_qs);
+        QVERIFY(nalezeno);
+        QVERIFY(okno.Najdi_Okno<frmOProgramu>() == nullptr);
     }
 };
 

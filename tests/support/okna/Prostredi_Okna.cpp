@@ -1,6 +1,7 @@
 #include "Prostredi_Okna.h"
 
 #include "Bajty.h"
+#include "app/Cestina.h"
 #include "app/frmNeniProcedura.h"
 #include "data/Soubory.h"
 #include "net/Import_Tahu.h"
@@ -25,6 +26,8 @@ QByteArray Soubor_Tipu(int pocet) {
 }
 
 Prostredi::Prostredi(const QDate& dnes) : Hodiny(QDateTime(dnes, QTime(18, 0))) {
+    // Qt's own texts in Czech, as the program has them.
+    Nastav_Cestinu_Qt();
     Registr = std::make_unique<QSettings>(Cesta(u"registr.ini"_qs), QSettings::IniFormat);
     Data->Cas = &Hodiny;
     Data->Dialog = &Dialogy;

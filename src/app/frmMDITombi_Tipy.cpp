@@ -1,0 +1,97 @@
+#include "app/frmMDITombi_Tipy.h"
+
+#include "app/Otevri_Dialog.h"
+#include "app/Relace.h"
+#include "app/Sluzby_Oken.h"
+#include "app/frmMDITombi.h"
+#include "data/Nedavne_Soubory.h"
+#include "data/Soubory.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace frmMDITombi_Tipy {
+
+namespace {
+
+const QString Filtr_Tipu = u"Soubor tipů (*.tip)|*.tip"_qs;
+
+void Po_Nacteni(frmMDITombi& ram, const QString& cesta) {
+    const Stav_Tipu& tipy = ram.Sezeni().Tipy;
+    ram.Pridej_Nedavny(Druh_Tipy, Jmeno_Bez_Adresare(cesta));
+    ram.Sezeni().Sluzby->Nastav_Soubor_Tipu(QString::number(tipy.Soubor_Tipu.Pocet_Tipu));
+    emit ram.Tipy_Otevreny();
+}
+
+void mnuOtevriSouborTipu_Click(frmMDITombi& ram) {
+    Relace& relace = ram.Sezeni();
+    QString cesta;
+    bool vybrano = false;
+    Otevri_Dialog(relace, 0, Filtr_Tipu, u"Otevřít soubor tipů"_qs, cesta, relace.Nastaveni.Adresare[1], vybrano);
+    if (vybrano)
+        Otevri_Soubor_Tipu(ram, cesta, Otevreni::Z_Dialogu);
+}
+
+void mnuRecentFile_Click(frmMDITombi& ram, int index) {
+    Relace& relace = ram.Sezeni();
+    const QString slozka = relace.Nastaveni.Adresare[1];
+    const QString jmeno = Soubor_Z_Polozky(ram.mnuRecentFile[std::size_t(index)]->data().toString());
+    const QString cesta = Spoj_Cestu(slozka, jmeno);
+    // The recent files keep bare names: say where the file was looked for.
+    if (!QFileInfo(cesta).isFile()) {
+        relace.Sluzby->Zprava(u"Soubor \""_qs + jmeno + u"\" nebyl nalezen ve složce tipů \""_qs +
+                              QDir::toNativeSeparators(slozka) + u"\"."_qs);
+        return;
+    }
+    Otevri_Soubor_Tipu(ram, cesta, Otevreni::Z_Nedavnych);
+}
+
+void mnuKonverzeSouboruTipu_Click(frmMDITombi& ram) {
+    Relace& relace = ram.Sezeni();
+    QString cesta;
+    bool vybrano = false;
+    Otevri_Dialog(relace, 0, Filtr_Tipu, u"Konverze starého souboru tipů"_qs, cesta, relace.Nastaveni.Adresare[1],
+                  vybrano);
+    if (!vybrano)
+        return;
+    Vysledek konverze;
+    {
+        const Prace prace(relace.Sluzby);
+        konverze = Konvertuj_Soubor_Tipu(relace.Tipy, cesta, prace.Prubeh_Prace());
+    }
+    if (!konverze.Ok()) {
+        relace.Sluzby->Zprava(konverze.Zprava);
+        return;
+    }
+    relace.Sluzby->Zprava(Text_Konverze_Hotova);
+    Po_Nacteni(ram, cesta);
+}
+
+} // namespace
+
+void Pripoj_Prikazy(frmMDITombi& ram) {
+    ram.Obsluz(ram.mnuOtevriSouborTipu, [&ram] { mnuOtevriSouborTipu_Click(ram); });
+    ram.Obsluz(ram.mnuKonverzeSouboruTipu, [&ram] { mnuKonverzeSouboruTipu_Click(ram); });
+    for (int i = 1; i < int(ram.mnuRecentFile.size()); ++i)
+        ram.Obsluz(ram.mnuRecentFile[std::size_t(i)], [&ram, i] { mnuRecentFile_Click(ram, i); });
+}
+
+void Otevri_Soubor_Tipu(frmMDITombi& ram, const QString& cesta, Otevreni otevreni) {
+    Relace& relace = ram.Sezeni();
+    const Vysledek nacteni = Nacti_Soubor_Tipu(relace.Tipy, cesta, otevreni);
+    if (!nacteni.Ok()) {
+        relace.Sluzby->Zprava(nacteni.Zprava);
+        return;
+    }
+    Po_Otevreni_Tipu(relace.Tipy, cesta);
+    Po_Nacteni(ram, cesta);
+}
+
+void Zapomen_Soubor_Tipu(Relace& relace) {
+    relace.Tipy.Pocet_Tipu_Aktivni = 0;
+    relace.Tipy.Jmeno_Souboru_Tipu.clear();
+    if (relace.Sluzby != nullptr)
+        relace.Sluzby->Nastav_Soubor_Tipu(u"0 tipů"_qs);
+}
+
+} // namespace frmMDITombi_Tipy
