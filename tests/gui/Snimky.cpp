@@ -9,6 +9,7 @@
 #include "app/frmNapoveda.h"
 #include "app/frmNeniProcedura.h"
 #include "app/frmOProgramu.h"
+#include "app/frmPismo.h"
 #include "app/frmPrehled.h"
 #include "app/frmTombi_uvod.h"
 #include "data/Chyby_A_Prehled.h"
@@ -97,6 +98,8 @@ int main(int argc, char** argv) {
              const QString cesta = slozka.filePath(Soubor_Prehledu);
              return new frmPrehled(cesta);
          }},
+        {u"frmPismo"_qs,
+         [](QWidget*) -> QWidget* { return new frmPismo(QFont(u"DejaVu Sans"_qs, 10), QColor(128, 0, 0)); }},
         {u"frmOProgramu"_qs, [](QWidget*) -> QWidget* { return new frmOProgramu(QStringLiteral(TOMBI_VERZE)); }},
         // The frame as a user meets it on a Thursday evening: the Sunday archive and a tip file open.
         {u"frmMDITombi"_qs,
