@@ -93,6 +93,7 @@ QString Adresar_Programu() {
 int main(int argc, char** argv) {
     QElapsedTimer od_spusteni;
     od_spusteni.start();
+    Priprav_Zapis_Souboru();
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringView(Organizace_Registru).toString());
     QApplication::setApplicationName(QStringView(Aplikace_Registru).toString());

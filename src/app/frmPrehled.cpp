@@ -59,12 +59,12 @@ void frmPrehled::Prevezmi(const QString& cesta) {
 void frmPrehled::Obnovit() {
     // New lines come at the end: a reload keeps the place the user was reading.
     const int radek = txtPrehled->verticalScrollBar()->value();
-    const std::optional<QByteArray> obsah = Nacti_Soubor(Cesta);
-    if (!obsah) {
-        txtPrehled->setPlainText(u"Soubor \""_qs + Cesta + u"\" nelze načíst."_qs);
+    const Nacteny_Soubor obsah = Nacti_Soubor(Cesta, Nejvic_Textu);
+    if (!obsah.Ok()) {
+        txtPrehled->setPlainText(obsah.Zprava(QDir::toNativeSeparators(Cesta)));
         return;
     }
-    QString text = Vb::Z_1250(*obsah);
+    QString text = Vb::Z_1250(obsah.Data);
     text.replace(u"\r\n"_qs, u"\n"_qs).replace(u'\r', u'\n');
     txtPrehled->setPlainText(text);
     txtPrehled->verticalScrollBar()->setValue(radek);

@@ -142,15 +142,16 @@ Vysledek Prepni_Den(Relace& relace, Den den) {
     return nacteni;
 }
 
+QString Tvar_Poctu(int64_t pocet, const QString& jeden, const QString& dva_az_ctyri, const QString& pet) {
+    if (pocet == 1)
+        return jeden;
+    return pocet >= 2 && pocet <= 4 ? dva_az_ctyri : pet;
+}
+
 QString Text_Poctu_Tipu(int pocet) {
     if (pocet <= 0)
         return {};
-    const QString cislo = QString::number(pocet);
-    if (pocet == 1)
-        return cislo + u" tip"_qs;
-    if (pocet <= 4)
-        return cislo + u" tipy"_qs;
-    return cislo + u" tipů"_qs;
+    return QString::number(pocet) + u' ' + Tvar_Poctu(pocet, u"tip"_qs, u"tipy"_qs, u"tipů"_qs);
 }
 
 void Cekej(const Hodiny& hodiny, double sekundy, const std::function<void()>& pumpa) {

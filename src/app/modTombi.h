@@ -46,6 +46,10 @@ Den Den_Podle_Tydne(int den_v_tydnu);
 // load is returned for the caller to show; the session is then without draws.
 Vysledek Prepni_Den(Relace& relace, Den den);
 
+// The Czech form of a noun after a count: `jeden` for 1, `dva_az_ctyri` for 2 to 4, `pet` for any
+// other count, 0 and negative ones included ("1 sloupec", "3 sloupce", "5 sloupců", "0 sloupců").
+QString Tvar_Poctu(int64_t pocet, const QString& jeden, const QString& dva_az_ctyri, const QString& pet);
+
 // The label of lblSoubor_Tipu: "" for 0, "1 tip", "3 tipy", "5 tipů".
 QString Text_Poctu_Tipu(int pocet);
 

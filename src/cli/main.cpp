@@ -10,12 +10,16 @@
 #include "data/Soubory.h"
 #include "net/Import_Tahu.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QString>
 #include <QStringList>
 
 #include <cstdio>
 #include <optional>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -32,6 +36,57 @@ const char* const Pouziti =
     "  tombi-cli tips --convert SOUBOR.tip\n"
     "  tombi-cli cfg SOUBOR\n";
 
+// Paths that Qt reaches through /proc/self/fd, with the names the user gave (see Cesta_Argumentu).
+QList<std::pair<QString, QString>>& Nahradni_Cesty() {
+    static QList<std::pair<QString, QString>> cesty;
+    return cesty;
+}
+
+// Paths that can be read at most: no file can be written under their name.
+QStringList& Jen_Ke_Cteni() {
+    static QStringList cesty;
+    return cesty;
+}
+
+// Qt names files in UTF-8 and turns any other byte into U+FFFD, so a name from a Latin-1 or
+// CP1250 file system would not open by its text. Such a path is reached through /proc/self/fd:
+// its folder, or the file itself when its own name is the odd one, is opened by the raw bytes,
+// and Qt goes through the link of that descriptor.
+QString Cesta_Argumentu(const char* argument) {
+    const QByteArray bajty(argument);
+    const QString cesta = QFile::decodeName(bajty);
+    if (QFile::encodeName(cesta) == bajty)
+        return cesta;
+    const qsizetype lomitko = bajty.lastIndexOf('/');
+    const QByteArray slozka = lomitko < 0 ? QByteArray(".") : lomitko == 0 ? QByteArray("/") : bajty.left(lomitko);
+    const QByteArray jmeno = bajty.mid(lomitko + 1);
+    const QString jmeno_qt = QFile::decodeName(jmeno);
+    QString nahradni;
+    if (QFile::encodeName(jmeno_qt) == jmeno) {
+        if (const int d = ::open(slozka.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC); d >= 0)
+            nahradni = u"/proc/self/fd/%1/"_qs.arg(d) + jmeno_qt;
+    } else {
+        // A file reached by its own descriptor can be read, but nothing can be written beside it;
+        // a new file of such a name cannot even be named.
+        if (const int f = ::open(bajty.constData(), O_PATH | O_CLOEXEC); f >= 0) {
+            nahradni = u"/proc/self/fd/%1"_qs.arg(f);
+            // Messages that name the file alone name it by the descriptor's number.
+            Nahradni_Cesty().append({u"\""_qs + QString::number(f) + u'"', u'"' + jmeno_qt + u'"'});
+        }
+        Jen_Ke_Cteni() << (nahradni.isEmpty() ? cesta : nahradni);
+    }
+    if (nahradni.isEmpty())
+        return cesta;
+    Nahradni_Cesty().prepend({nahradni, cesta});
+    return nahradni;
+}
+
+QString Zobrazeni(QString text) {
+    for (const auto& [nahradni, puvodni] : Nahradni_Cesty())
+        text.replace(nahradni, puvodni);
+    return text;
+}
+
 void Vypis(const QString& radek) {
     const QByteArray b = radek.toUtf8();
     std::fwrite(b.constData(), 1, size_t(b.size()), stdout);
@@ -39,10 +94,15 @@ void Vypis(const QString& radek) {
 }
 
 int Chyba(const QString& zprava) {
-    const QByteArray b = zprava.toUtf8();
+    const QByteArray b = Zobrazeni(zprava).toUtf8();
     std::fwrite(b.constData(), 1, size_t(b.size()), stderr);
     std::fputc('\n', stderr);
     return Chybny_Vstup;
+}
+
+int Nelze_Zapsat_Do(const QString& cesta) {
+    return Chyba(u"Jméno souboru \""_qs + cesta +
+                 u"\" není v kódování UTF-8 a tombi-cli do takového souboru zapisovat neumí. Přejmenujte ho, prosím."_qs);
 }
 
 int Spatne_Pouziti(const QString& co) {
@@ -107,16 +167,21 @@ int Import(const QStringList& args) {
     else if (csv)
         return Spatne_Pouziti(u"Den musí být \"streda\" nebo \"nedele\"."_qs);
 
+    if (Jen_Ke_Cteni().contains(*vystup))
+        return Nelze_Zapsat_Do(*vystup);
     const QString zdroj = dbf ? *dbf : *csv;
-    const auto bajty = Nacti_Soubor(zdroj);
-    if (!bajty)
-        return Chyba(u"Soubor \""_qs + zdroj + u"\" nelze přečíst."_qs);
-    const Import_Vysledek vysledek = dbf ? Importuj_Dbf(*bajty) : Importuj_Csv(*bajty, *den_tahu);
+    const Nacteny_Soubor nacteny = Nacti_Soubor(zdroj, Nejvic_Zdroje_Tahu);
+    if (!nacteny.Ok())
+        return Chyba(nacteny.Zprava(zdroj));
+    const Import_Vysledek vysledek = dbf ? Importuj_Dbf(nacteny.Data) : Importuj_Csv(nacteny.Data, *den_tahu);
     if (!vysledek.Stav.Ok())
         return Chyba(vysledek.Stav.Zprava);
-    if (vysledek.Pocet_Let() == 0)
-        return Chyba(u"Není soubor s tahy \""_qs + QFileInfo(zdroj).completeBaseName() +
-                     u".dbf (.xls)\" nebo je v něm chyba."_qs);
+    if (vysledek.Pocet_Let() == 0) {
+        // A CSV source is named as it is; a dBase one as the program has always named it.
+        const QFileInfo info(zdroj);
+        return Chyba(csv ? Text_Chybneho_Zdroje(info.fileName(), true)
+                         : Text_Chybneho_Zdroje(info.completeBaseName() + u".dbf"_qs, false));
+    }
 
     Archiv_Tahu archiv;
     archiv.Pole_Tahu = vysledek.Roky;
@@ -167,6 +232,8 @@ int Tipy(const QStringList& args) {
     Stav_Tipu stav;
 
     if (a.Prepinace.contains(u"--convert")) {
+        if (Jen_Ke_Cteni().contains(cesta))
+            return Nelze_Zapsat_Do(cesta);
         const Vysledek konverze = Konvertuj_Soubor_Tipu(stav, cesta);
         if (!konverze.Ok())
             return Chyba(konverze.Zprava);
@@ -198,10 +265,10 @@ int Tipy(const QStringList& args) {
 int Nastaveni(const QStringList& args) {
     if (args.size() != 1 || args.front().startsWith(u"--"))
         return Spatne_Pouziti({});
-    const auto bajty = Nacti_Soubor(args.front());
-    if (!bajty)
-        return Chyba(u"Soubor \""_qs + args.front() + u"\" nelze přečíst."_qs);
-    for (const QString& radek : Vypis_Nastaveni(Cti_Nastaveni(*bajty)))
+    const Nacteny_Soubor nacteny = Nacti_Soubor(args.front(), Nejvic_Nastaveni);
+    if (!nacteny.Ok())
+        return Chyba(nacteny.Zprava(args.front()));
+    for (const QString& radek : Vypis_Nastaveni(Cti_Nastaveni(nacteny.Data)))
         Vypis(radek);
     return Uspech;
 }
@@ -209,9 +276,10 @@ int Nastaveni(const QStringList& args) {
 } // namespace
 
 int main(int argc, char** argv) {
+    Priprav_Zapis_Souboru();
     QStringList args;
     for (int i = 1; i < argc; ++i)
-        args << QString::fromLocal8Bit(argv[i]);
+        args << Cesta_Argumentu(argv[i]);
     if (args.isEmpty())
         return Spatne_Pouziti({});
     const QString prikaz = args.takeFirst();

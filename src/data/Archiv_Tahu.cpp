@@ -114,10 +114,10 @@ QByteArray Zapis_Roky(const std::vector<Rok_Zaznam>& roky, int pocet_let) {
 Vysledek Nacti_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QString& soubor) {
     archiv.Pole_Tahu.assign(1, Rok_Zaznam{});
     archiv.Pocet_Let = 0;
-    const auto bajty = Nacti_Soubor(Spoj_Cestu(adresar, soubor));
-    if (!bajty)
-        return Vysledek::Chyba(Chybi_Soubor(soubor));
-    archiv.Pole_Tahu = Cti_Roky(*bajty);
+    const Nacteny_Soubor nacteny = Nacti_Soubor(Spoj_Cestu(adresar, soubor), Nejvic_Archivu);
+    if (!nacteny.Ok())
+        return Vysledek::Chyba(nacteny.Nelze_Otevrit ? Chybi_Soubor(soubor) : nacteny.Zprava(soubor));
+    archiv.Pole_Tahu = Cti_Roky(nacteny.Data);
     archiv.Pocet_Let = int(archiv.Pole_Tahu.size()) - 1;
     archiv.Tahy_Nacteny = true;
     return Vysledek::Uspech();
@@ -130,21 +130,12 @@ Vysledek Uloz_Tahy(const Archiv_Tahu& archiv, const QString& adresar, const QStr
 Vysledek Zaloha_Souboru(int druh, const Archiv_Tahu& archiv, const QString& adresar, const QString& soubor) {
     const QString a = Spoj_Cestu(adresar, soubor);
     const QString b = Spoj_Cestu(adresar, Jmeno_Zalohy(soubor));
+    if (druh == 1)
+        return Uloz_Se_Zalohou(a, Zapis_Roky(archiv.Pole_Tahu, Platny_Pocet_Let(archiv)), b);
     // Without a live file the old backup is all there is: keep it.
     if (!QFile::exists(a))
         return Vysledek::Chyba(Chybi_Soubor(soubor));
-    if (QFile::exists(b) && !QFile::remove(b))
-        return Vysledek::Chyba(u"Záložní soubor \""_qs + b + u"\" nelze smazat."_qs);
-    if (!QFile::rename(a, b))
-        return Vysledek::Chyba(u"Soubor \""_qs + a + u"\" nelze přejmenovat na \""_qs + b + u"\"."_qs);
-    if (druh == 1) {
-        Vysledek zapis = Uloz_Tahy(archiv, adresar, soubor);
-        // Without a new live file the day would have no archive at all: bring the old one back.
-        if (!zapis.Ok())
-            QFile::rename(b, a);
-        return zapis;
-    }
-    return Vysledek::Uspech();
+    return Prejmenuj_Soubor(a, b);
 }
 
 Vysledek Obnov_Zalohu(const Archiv_Tahu& archiv, const QString& adresar) {
@@ -152,22 +143,8 @@ Vysledek Obnov_Zalohu(const Archiv_Tahu& archiv, const QString& adresar) {
     const QString zaloha = Spoj_Cestu(adresar, Jmeno_Zalohy(archiv.Soubor_Tahu));
     if (archiv.Soubor_Tahu.isEmpty() || !QFile::exists(zaloha))
         return Vysledek::Chyba(u"Není soubor *.ZAL  v aktuálním adresáři."_qs);
-    // The live file steps aside rather than being deleted, so a failed rename loses nothing.
-    const QString stranou = zive + u".puvodni"_qs;
-    const bool byl_zivy = QFile::exists(zive);
-    if (byl_zivy) {
-        QFile::remove(stranou);
-        if (!QFile::rename(zive, stranou))
-            return Vysledek::Chyba(u"Soubor \""_qs + zive + u"\" nelze nahradit zálohou."_qs);
-    }
-    if (!QFile::rename(zaloha, zive)) {
-        if (byl_zivy)
-            QFile::rename(stranou, zive);
-        return Vysledek::Chyba(u"Soubor \""_qs + zive + u"\" nelze nahradit zálohou."_qs);
-    }
-    if (byl_zivy)
-        QFile::remove(stranou);
-    return Vysledek::Uspech();
+    // One rename replaces the live file, so a failure leaves both as they were.
+    return Prejmenuj_Soubor(zaloha, zive);
 }
 
 void Priprav_Seznamy_Tahu(Archiv_Tahu& archiv) {

@@ -34,6 +34,8 @@ struct Rok_Zaznam {
 
 inline constexpr int Delka_Tydne = 18;
 inline constexpr int Delka_Roku = 2 + 53 * Delka_Tydne; // 956
+// 32767 years, as many as Pocet_Let counts, take 31 MB; a larger file is no archive.
+inline constexpr qint64 Nejvic_Archivu = 32 * 1024 * 1024;
 
 // The draw day, with the values of Den_Tahu: 1 Wednesday, 0 Sunday.
 enum class Den : uint8_t { Nedele = 0, Streda = 1 };
@@ -69,14 +71,18 @@ std::vector<Rok_Zaznam> Cti_Roky(const QByteArray& bajty);
 QByteArray Zapis_Roky(const std::vector<Rok_Zaznam>& roky, int pocet_let);
 
 // Loads adresar/soubor into the archive. The old archive is dropped first, so a failure leaves
-// the session without draws (Pocet_Let 0). The flat lists are the caller's to rebuild.
+// the session without draws (Pocet_Let 0). A missing or unreadable file gives "Chybí soubor tahů";
+// a folder, a device or a file above Nejvic_Archivu is refused with its reason. The flat lists are
+// the caller's to rebuild.
 Vysledek Nacti_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QString& soubor);
 // Writes Pocet_Let records to adresar/soubor, replacing the old file whole or not at all.
 Vysledek Uloz_Tahy(const Archiv_Tahu& archiv, const QString& adresar, const QString& soubor);
-// Renames adresar/soubor to its .zal (one generation: the older backup goes). With druh 1 the
-// live file is then written anew from memory.
+// Makes adresar/soubor its .zal (one generation: the older backup goes). With druh 0 the file is
+// renamed and no live file stands afterwards. With druh 1 the live file is written anew from the
+// archive in memory, and a failed write leaves the file and its backup as they were; where there
+// is no live file yet, druh 1 simply writes it.
 Vysledek Zaloha_Souboru(int druh, const Archiv_Tahu& archiv, const QString& adresar, const QString& soubor);
-// Puts the .zal of Soubor_Tahu back in place of the live file; the backup is used up.
+// Puts the .zal of Soubor_Tahu in place of the live file; the backup is used up.
 Vysledek Obnov_Zalohu(const Archiv_Tahu& archiv, const QString& adresar);
 // Rebuilds Tahy_1 and Tahy_2 from the flagged weeks, in file order.
 void Priprav_Seznamy_Tahu(Archiv_Tahu& archiv);

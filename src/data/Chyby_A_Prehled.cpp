@@ -33,10 +33,10 @@ Vysledek Pridej_Do_Prehledu(const QString& adresar_seznamu, const QString& soubo
     QByteArray obsah;
     if (QFile::exists(cesta)) {
         // An overview that is there but cannot be read is left alone rather than started afresh.
-        const auto stary = Nacti_Soubor(cesta);
-        if (!stary)
-            return Vysledek::Chyba(u"Soubor \""_qs + Soubor_Prehledu + u"\" nelze načíst."_qs);
-        obsah = *stary;
+        const Nacteny_Soubor stary = Nacti_Soubor(cesta, Nejvic_Textu);
+        if (!stary.Ok())
+            return Vysledek::Chyba(stary.Zprava(Soubor_Prehledu));
+        obsah = stary.Data;
     } else {
         const QString hlava = Konec_Radku + u"     Vazba souboru SEZNAM na soubor TIPU"_qs + Konec_Radku +
                               u"Seznam\t\t\tTipy\t\t\tUloženo dne"_qs + Konec_Radku + QString(108, u'-') + Konec_Radku;

@@ -4,6 +4,7 @@
 #include "data/Soubory.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <algorithm>
@@ -197,9 +198,7 @@ Nastaveni_Zaznam Vychozi_Nastaveni(const QString& cesta_programu, const QString&
 
 Vysledek Nacti_Nastaveni(Nastaveni_Zaznam& nastaveni, const QString& cesta_programu, const QString& verze,
                          QSettings& registr) {
-    nastaveni = Cti_Nastaveni(Nacti_Soubor(Spoj_Cestu(cesta_programu, Jmeno_Souboru())).value_or(QByteArray()));
-
-    if (Vb::Val(nastaveni.Verze_Cfg) < Nejstarsi_Verze) {
+    const auto prvni_spusteni = [&] {
         nastaveni = Vychozi_Nastaveni(cesta_programu, verze);
         // The password outlives a lost or outdated tombi.cfg.
         const QString pws = registr.value(Klic_Pws).toString();
@@ -207,6 +206,18 @@ Vysledek Nacti_Nastaveni(Nastaveni_Zaznam& nastaveni, const QString& cesta_progr
             nastaveni.Heslo = Desifruj_Pws(pws);
             nastaveni.Je_Heslo = Vb::Pravda;
         }
+    };
+    const QString cesta = Spoj_Cestu(cesta_programu, Jmeno_Souboru());
+    const Nacteny_Soubor soubor = Nacti_Soubor(cesta, Nejvic_Nastaveni);
+    // A file that is there but will not be read is no first run: it is left for the user to look at.
+    if (!soubor.Ok() && QFileInfo::exists(cesta)) {
+        prvni_spusteni();
+        return Vysledek::Chyba(soubor.Zprava(cesta) + u" Program začíná s výchozím nastavením."_qs);
+    }
+    nastaveni = Cti_Nastaveni(soubor.Data);
+
+    if (Vb::Val(nastaveni.Verze_Cfg) < Nejstarsi_Verze) {
+        prvni_spusteni();
         return Uloz_Soubor(Spoj_Cestu(nastaveni.Adresare[0], Jmeno_Souboru()), Zapis_Nastaveni(nastaveni));
     }
 

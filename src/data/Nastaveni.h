@@ -195,10 +195,15 @@ QStringList Vypis_Nastaveni(const Nastaveni_Zaznam& nastaveni);
 // Adresare[0..4], and `verze` in Verze_Cfg. No password.
 Nastaveni_Zaznam Vychozi_Nastaveni(const QString& cesta_programu, const QString& verze);
 
+// With every text at its longest the record takes 820 KB.
+inline constexpr qint64 Nejvic_Nastaveni = 1024 * 1024;
+
 // The start-up read of cesta_programu/tombi.cfg (missing reads as all zero). A record older than
 // 1.3 is dropped for the first-run defaults, with the password taken back from Pws, and written
-// out; a newer one is repointed to the program directory if the installation has moved. The
-// message, if any, is that of the failed first-run write; the record is set up all the same.
+// out; a newer one is repointed to the program directory if the installation has moved. A file
+// that is there but cannot be read (unreadable, a folder, above Nejvic_Nastaveni) gives the
+// defaults too, but is not written over, and the message says why. Otherwise the message, if any,
+// is that of the failed first-run write; the record is set up all the same.
 Vysledek Nacti_Nastaveni(Nastaveni_Zaznam& nastaveni, const QString& cesta_programu, const QString& verze,
                          QSettings& registr);
 

@@ -4,7 +4,10 @@
 #include "data/Soubory.h"
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
+#include <memory>
+#include <type_traits>
 
 namespace {
 
@@ -18,11 +21,6 @@ int16_t Cti_Int16(const QByteArray& b, qsizetype i) {
     return int16_t(uint16_t(Bajt(b, i) | Bajt(b, i + 1) << 8));
 }
 
-int32_t Cti_Int32(const QByteArray& b, qsizetype i) {
-    return int32_t(uint32_t(Bajt(b, i)) | uint32_t(Bajt(b, i + 1)) << 8 | uint32_t(Bajt(b, i + 2)) << 16 |
-                   uint32_t(Bajt(b, i + 3)) << 24);
-}
-
 // The list name: its 16-bit length, then the text. Only the bytes that are there are taken.
 QString Cti_Text(const QByteArray& b, qsizetype posun) {
     const int16_t delka = Cti_Int16(b, posun);
@@ -32,21 +30,44 @@ QString Cti_Text(const QByteArray& b, qsizetype posun) {
     return n > 0 ? Vb::Z_1250(b.mid(zacatek, n)) : QString();
 }
 
-template <class Tiket_T, int Sloupcu> void Cti_Tikety(const QByteArray& b, Tiket_T& tiket, qsizetype posun) {
-    for (int s = 1; s <= Sloupcu; ++s)
-        for (int k = 1; k <= 6; ++k)
-            tiket.Cisla[s][k] = Bajt(b, posun + 6 * (s - 1) + (k - 1));
-    tiket.Cislo_Tiketu = Cti_Int32(b, posun + 6 * Sloupcu);
+// The numbers of a ticket lie in memory as on disk, six bytes a column without padding, so a
+// ticket's numbers are copied as one block rather than 60 KB of a record byte by byte.
+static_assert(sizeof(Pole_Od_1<Tip, Sloupcu_Tiketu>) == 6 * Sloupcu_Tiketu);
+static_assert(sizeof(Pole_Od_1<Tip, Sloupcu_Stareho_Tiketu>) == 6 * Sloupcu_Stareho_Tiketu);
+static_assert(std::is_trivially_copyable_v<Tip>);
+
+int32_t Int32_Z(const char* p) {
+    const auto* u = reinterpret_cast<const uint8_t*>(p);
+    return int32_t(uint32_t(u[0]) | uint32_t(u[1]) << 8 | uint32_t(u[2]) << 16 | uint32_t(u[3]) << 24);
 }
 
-void Zapis_Int16(QByteArray& b, qsizetype i, int16_t h) {
-    b[i] = char(uint16_t(h) & 0xFF);
-    b[i + 1] = char(uint16_t(h) >> 8);
-}
-
-void Zapis_Int32(QByteArray& b, qsizetype i, int32_t h) {
+void Int32_Do(char* p, int32_t h) {
     for (int k = 0; k < 4; ++k)
-        b[i + k] = char((uint32_t(h) >> (8 * k)) & 0xFF);
+        p[k] = char((uint32_t(h) >> (8 * k)) & 0xFF);
+}
+
+// Tickets of `Delka` bytes from the start of the file; a ticket cut by the end is read as far as it
+// goes, and those past the end stay zero.
+template <int Delka, class Tiket_T, std::size_t Pocet>
+void Cti_Tikety(const QByteArray& b, Pole_Od_1<Tiket_T, Pocet>& tikety) {
+    static_assert(Delka == sizeof(Tiket_T::Cisla) + 4);
+    const auto cti = [](const char* p, Tiket_T& tiket) {
+        std::memcpy(&tiket.Cisla, p, sizeof tiket.Cisla);
+        tiket.Cislo_Tiketu = Int32_Z(p + sizeof tiket.Cisla);
+    };
+    const qsizetype celych = std::min<qsizetype>(qsizetype(Pocet), b.size() / Delka);
+    for (qsizetype t = 0; t < celych; ++t)
+        cti(b.constData() + t * Delka, tikety.Prvky[std::size_t(t)]);
+    if (celych < qsizetype(Pocet) && b.size() > celych * Delka) {
+        char zbytek[Delka] = {};
+        std::memcpy(zbytek, b.constData() + celych * Delka, std::size_t(b.size() - celych * Delka));
+        cti(zbytek, tikety.Prvky[std::size_t(celych)]);
+    }
+}
+
+void Zapis_Int16(char* p, int16_t h) {
+    p[0] = char(uint16_t(h) & 0xFF);
+    p[1] = char(uint16_t(h) >> 8);
 }
 
 QString Jmeno_Bez_Pripony(const QString& cesta) {
@@ -55,16 +76,11 @@ QString Jmeno_Bez_Pripony(const QString& cesta) {
     return tecka > 0 ? jmeno.left(tecka) : jmeno;
 }
 
-Vysledek Nelze_Nacist(const QString& jmeno) {
-    return Vysledek::Chyba(u"Soubor \""_qs + jmeno + u"\" nelze načíst."_qs);
-}
-
 } // namespace
 
 Zaznam_Tipu Cti_Zaznam_Tipu(const QByteArray& bajty) {
     Zaznam_Tipu z;
-    for (int t = 1; t <= Max_Tiketu; ++t)
-        Cti_Tikety<Tiket, Sloupcu_Tiketu>(bajty, z.Tikety[t], qsizetype(t - 1) * Delka_Tiketu);
+    Cti_Tikety<Delka_Tiketu>(bajty, z.Tikety);
     z.Pocet_Tiketu = Cti_Int16(bajty, Posun_Pocet_Tiketu);
     z.Pocet_Tipu = Cti_Int16(bajty, Posun_Pocet_Tipu);
     z.Seznam_Soubor = Cti_Text(bajty, Posun_Delky_Seznamu);
@@ -74,8 +90,7 @@ Zaznam_Tipu Cti_Zaznam_Tipu(const QByteArray& bajty) {
 Stary_Zaznam_Tipu Cti_Stary_Zaznam_Tipu(const QByteArray& bajty) {
     constexpr qsizetype posun_poctu = qsizetype(Max_Starych_Tiketu) * Delka_Stareho_Tiketu;
     Stary_Zaznam_Tipu z;
-    for (int t = 1; t <= Max_Starych_Tiketu; ++t)
-        Cti_Tikety<Stary_Tiket, Sloupcu_Stareho_Tiketu>(bajty, z.Tikety[t], qsizetype(t - 1) * Delka_Stareho_Tiketu);
+    Cti_Tikety<Delka_Stareho_Tiketu>(bajty, z.Tikety);
     z.Pocet_Tiketu = Cti_Int16(bajty, posun_poctu);
     z.Pocet_Tipu = Cti_Int16(bajty, posun_poctu + 2);
     z.Seznam_Soubor = Cti_Text(bajty, posun_poctu + 4);
@@ -87,18 +102,16 @@ QByteArray Zapis_Zaznam_Tipu(const Zaznam_Tipu& zaznam) {
     // The length field is signed 16-bit; a longer name would not read back.
     text.truncate(std::numeric_limits<int16_t>::max());
     QByteArray b(Delka_Zaznamu_Tipu + text.size(), '\0');
-    for (int t = 1; t <= Max_Tiketu; ++t) {
-        const Tiket& tiket = zaznam.Tikety[t];
-        const qsizetype posun = qsizetype(t - 1) * Delka_Tiketu;
-        for (int s = 1; s <= Sloupcu_Tiketu; ++s)
-            for (int k = 1; k <= 6; ++k)
-                b[posun + 6 * (s - 1) + (k - 1)] = char(tiket.Cisla[s][k]);
-        Zapis_Int32(b, posun + 6 * Sloupcu_Tiketu, tiket.Cislo_Tiketu);
+    char* p = b.data();
+    for (const Tiket& tiket : zaznam.Tikety) {
+        std::memcpy(p, &tiket.Cisla, sizeof tiket.Cisla);
+        Int32_Do(p + sizeof tiket.Cisla, tiket.Cislo_Tiketu);
+        p += Delka_Tiketu;
     }
-    Zapis_Int16(b, Posun_Pocet_Tiketu, zaznam.Pocet_Tiketu);
-    Zapis_Int16(b, Posun_Pocet_Tipu, zaznam.Pocet_Tipu);
-    Zapis_Int16(b, Posun_Delky_Seznamu, int16_t(text.size()));
-    std::copy(text.cbegin(), text.cend(), b.begin() + Delka_Zaznamu_Tipu);
+    Zapis_Int16(b.data() + Posun_Pocet_Tiketu, zaznam.Pocet_Tiketu);
+    Zapis_Int16(b.data() + Posun_Pocet_Tipu, zaznam.Pocet_Tipu);
+    Zapis_Int16(b.data() + Posun_Delky_Seznamu, int16_t(text.size()));
+    std::memcpy(b.data() + Delka_Zaznamu_Tipu, text.constData(), std::size_t(text.size()));
     return b;
 }
 
@@ -134,13 +147,13 @@ Zaznam_Tipu Preved_Stary_Zaznam(const Stary_Zaznam_Tipu& stary, const Prubeh& pr
 
 Vysledek Nacti_Soubor_Tipu(Stav_Tipu& stav, const QString& cesta, Otevreni otevreni) {
     const QString jmeno = Jmeno_Bez_Adresare(cesta);
-    const auto bajty = Nacti_Soubor(cesta);
-    if (!bajty)
-        return Nelze_Nacist(jmeno);
+    const Nacteny_Soubor soubor = Nacti_Soubor(cesta, Nejvic_Souboru_Tipu);
+    if (!soubor.Ok())
+        return Vysledek::Chyba(soubor.Zprava(jmeno));
     const bool z_dialogu = otevreni == Otevreni::Z_Dialogu;
-    if (z_dialogu && bajty->isEmpty())
+    if (z_dialogu && soubor.Data.isEmpty())
         return Vysledek::Chyba(u"Soubor \""_qs + jmeno + u"\" je prázdný."_qs);
-    stav.Soubor_Tipu = Cti_Zaznam_Tipu(*bajty);
+    stav.Soubor_Tipu = Cti_Zaznam_Tipu(soubor.Data);
     QString zprava;
     if (z_dialogu && Je_Stary_Format(jmeno, stav.Soubor_Tipu.Pocet_Tipu, &zprava))
         return Vysledek::Chyba(zprava);
@@ -159,19 +172,31 @@ Vysledek Uloz_Soubor_Tipu(const Stav_Tipu& stav, const QString& cesta) {
     return Uloz_Soubor(cesta, Zapis_Zaznam_Tipu(stav.Soubor_Tipu));
 }
 
+bool Je_Treba_Konvertovat(const QByteArray& bajty) {
+    if (bajty.size() >= Delka_Zaznamu_Tipu && Cti_Int16(bajty, Posun_Pocet_Tipu) > 0)
+        return false;
+    // A current file of up to 812 tickets reads 0 here: the old count lies in its empty ticket 813.
+    return Cti_Int16(bajty, qsizetype(Max_Starych_Tiketu) * Delka_Stareho_Tiketu) > 0;
+}
+
+QString Zaloha_Konverze(const QString& cesta) {
+    return cesta + u".zal"_qs;
+}
+
 Vysledek Konvertuj_Soubor_Tipu(Stav_Tipu& stav, const QString& cesta, const Prubeh& prubeh) {
     const QString jmeno = Jmeno_Bez_Adresare(cesta);
-    const auto bajty = Nacti_Soubor(cesta);
-    if (!bajty)
-        return Nelze_Nacist(jmeno);
-    const Stary_Zaznam_Tipu stary = Cti_Stary_Zaznam_Tipu(*bajty);
-    // A current file of up to 812 tickets reads 0 here too: the old count lies in its empty ticket 813.
-    if (stary.Pocet_Tiketu <= 0)
+    const Nacteny_Soubor soubor = Nacti_Soubor(cesta, Nejvic_Souboru_Tipu);
+    if (!soubor.Ok())
+        return Vysledek::Chyba(soubor.Zprava(jmeno));
+    if (!Je_Treba_Konvertovat(soubor.Data))
         return Vysledek::Chyba(u"Soubor \""_qs + jmeno + u"\" není třeba konvertovat."_qs);
-    Zaznam_Tipu novy = Preved_Stary_Zaznam(stary, prubeh);
-    if (Vysledek v = Uloz_Soubor(cesta, Zapis_Zaznam_Tipu(novy)); !v.Ok())
+    auto novy = std::make_unique<Zaznam_Tipu>(Preved_Stary_Zaznam(Cti_Stary_Zaznam_Tipu(soubor.Data), prubeh));
+    // Whatever the file really was, its bytes stay beside it, so the conversion can be undone.
+    if (const Vysledek zaloha = Uloz_Soubor(Zaloha_Konverze(cesta), soubor.Data); !zaloha.Ok())
+        return Vysledek::Chyba(zaloha.Zprava + u" Soubor \""_qs + jmeno + u"\" proto nebyl převeden."_qs);
+    if (Vysledek v = Uloz_Soubor(cesta, Zapis_Zaznam_Tipu(*novy)); !v.Ok())
         return v;
-    stav.Soubor_Tipu = std::move(novy);
+    stav.Soubor_Tipu = std::move(*novy);
     Po_Otevreni_Tipu(stav, cesta);
     return Vysledek::Uspech();
 }

@@ -59,6 +59,10 @@ struct Stary_Zaznam_Tipu {
     QString Seznam_Soubor;
 };
 
+// A tip file is 93 KB at most (the record and a list name of 32767 bytes); a file far larger is
+// something else and is not read.
+inline constexpr qint64 Nejvic_Souboru_Tipu = 1024 * 1024;
+
 // Reading is a plain record read: a short file leaves the rest zero, a list name whose length runs
 // past the end gets what is there (a negative length counts as 0), bytes past the record are
 // ignored. Any bytes are accepted.
@@ -99,12 +103,20 @@ bool Je_Stary_Format(const QString& jmeno, int pocet_tipu, QString* zprava = nul
 // file with Pridej_Do_Prehledu (data/Chyby_A_Prehled.h).
 Vysledek Uloz_Soubor_Tipu(const Stav_Tipu& stav, const QString& cesta);
 
+// Whether the bytes are an old file with something to convert: its ticket count is above 0, and
+// it is not a current file (a whole record whose tip count is above 0). A current file of 813
+// tickets or more has a count at the old place too; it must not be converted over.
+bool Je_Treba_Konvertovat(const QByteArray& bajty);
+
 // Converts an old file in place: reads it, repacks its tips, writes the new record over it and
-// takes it as the open file. A record without tickets (a count of 0 or below) is refused: there is
-// nothing to convert. The state changes only if the file was written. On success the caller
-// shows Text_Konverze_Hotova, enters the name in the recent files, reads the linked list if its
-// name is longer than 2 characters, and opens or reloads the tip list.
+// takes it as the open file. A file with nothing to convert is refused and left alone. Before the
+// new record is written, the original is kept as cesta + ".zal"; if that fails, nothing is
+// converted. The state changes only if the file was written. On success the caller shows
+// Text_Konverze_Hotova, enters the name in the recent files, reads the linked list if its name is
+// longer than 2 characters, and opens or reloads the tip list.
 Vysledek Konvertuj_Soubor_Tipu(Stav_Tipu& stav, const QString& cesta, const Prubeh& prubeh = {});
+// The original of a converted file, beside it.
+QString Zaloha_Konverze(const QString& cesta);
 inline const QString Text_Konverze_Hotova = QStringLiteral("Starý soubor tipů byl převeden na nový formát.");
 
 // The session's part of taking an opened file. The recent files, emptying and reading the linked

@@ -1,7 +1,8 @@
 #pragma once
 // Plain file helpers that every file format uses: a whole file in, a whole file out.
 // A file is written through QSaveFile, so it is replaced whole or not at all: a full disk or a
-// crash never leaves half an archive, tip file or tombi.cfg behind.
+// crash never leaves half an archive, tip file or tombi.cfg behind. Every failure is told in
+// Czech, with the reason the system gave.
 
 #include "app/Vysledek.h"
 
@@ -14,12 +15,42 @@
 // separator or not, and may be a path of the old Windows program ("C:\Tombi\").
 QString Spoj_Cestu(const QString& adresar, const QString& jmeno);
 
-// Reads the whole file; nothing if it is missing or cannot be read. Clears the read-only flag
-// first, as the old program did, so that the file can later be replaced.
-std::optional<QByteArray> Nacti_Soubor(const QString& cesta);
+// Each program calls this first: a write past the file-size limit (RLIMIT_FSIZE) then fails
+// with a message instead of SIGXFSZ ending the program.
+void Priprav_Zapis_Souboru();
 
-// Replaces the file with `data` atomically. The message names the file when the write fails.
+inline constexpr qint64 Mebibajt = 1024 * 1024;
+// What a reader takes in when its caller names no limit of its own: plenty for any text file.
+inline constexpr qint64 Nejvic_Textu = 64 * Mebibajt;
+
+// A whole file, or why it could not be had.
+struct Nacteny_Soubor {
+    QByteArray Data;
+    QString Duvod;              // empty when the file was read; otherwise the Czech reason
+    bool Nelze_Otevrit = false; // missing or unreadable, rather than refused for what it is
+    bool Ok() const { return Duvod.isEmpty(); }
+    // "Soubor "jmeno" nelze načíst: " and the reason.
+    QString Zprava(const QString& jmeno) const;
+};
+
+// Reads the whole file, clearing its read-only flag first as the old program did, so that it can
+// later be replaced. Only a regular file of at most `nejvic` bytes is read: a folder, a device, a
+// pipe or an oversized file is refused before a byte of it is taken in.
+Nacteny_Soubor Nacti_Soubor(const QString& cesta, qint64 nejvic);
+
+// Replaces the file with `data` atomically. The message names the file and the reason.
 Vysledek Uloz_Soubor(const QString& cesta, const QByteArray& data);
+
+// Replaces the file with `data` and keeps what it replaced as `zaloha`, which is replaced in turn.
+// The new content is written aside first; only then do the old backup, the file and the new
+// content change places. Whatever fails, both files are left as they were. A file that is not
+// there yet is simply written, and the backup stays.
+Vysledek Uloz_Se_Zalohou(const QString& cesta, const QByteArray& data, const QString& zaloha);
+
+// Renames, replacing the target if there is one; a failure leaves both as they were.
+Vysledek Prejmenuj_Soubor(const QString& z, const QString& na);
+// Removes the file; a file that is not there counts as removed.
+Vysledek Smaz_Soubor(const QString& cesta);
 
 // The file is there (and is made writable).
 bool Je_Soubor(const QString& adresar, const QString& jmeno);

@@ -1,6 +1,7 @@
 #include "net/Import_Tahu.h"
 
 #include "app/Vb.h"
+#include "app/modTombi.h"
 #include "data/Soubory.h"
 
 #include <QByteArrayView>
@@ -84,6 +85,27 @@ std::optional<int> Cele_Cislo(QByteArrayView pole) {
     return n;
 }
 
+// Why the bytes are no CSV text at all, or nothing. A text holds no NUL byte: UTF-16 has one beside
+// each ASCII character, binary data anywhere. Taken for years, either would give a baffling message.
+std::optional<QString> Neni_Text_Csv(const QByteArray& b) {
+    const QString utf16 = u"je uložen v kódování UTF-16; uložte ho jako CSV v kódování UTF-8 nebo Windows-1250"_qs;
+    if (b.startsWith("\xFF\xFE") || b.startsWith("\xFE\xFF"))
+        return utf16;
+    if (!b.contains('\0'))
+        return std::nullopt;
+    // Without a byte order mark: in most pairs one byte is NUL and the other an ASCII character.
+    const qsizetype par = std::min<qsizetype>(b.size() / 2, 64);
+    qsizetype ascii = 0;
+    for (qsizetype i = 0; i < par; ++i) {
+        const auto x = uint8_t(b[2 * i]), y = uint8_t(b[2 * i + 1]);
+        if ((x == 0) != (y == 0) && (x | y) < 0x80)
+            ++ascii;
+    }
+    if (par > 0 && ascii * 4 >= par * 3)
+        return utf16;
+    return u"obsahuje binární data"_qs;
+}
+
 QString Ukazka(QByteArrayView pole) {
     QString text = Vb::Z_1250(pole.first(std::min<qsizetype>(24, pole.size())).toByteArray());
     if (pole.size() > 24)
@@ -114,15 +136,16 @@ Import_Vysledek Importuj_Dbf(const QByteArray& bajty, const Prubeh& prubeh) {
             return Chyba(u"V souboru s tahy je rok "_qs + Cislo(rok) + u" mimo rozsah 1 až 9999."_qs);
         if (!je_rok || text != text_roku) {
             if (vysledek.Pocet_Let() >= Nejvic_Let)
-                return Chyba(u"V souboru s tahy je příliš mnoho roků."_qs);
+                return Chyba(u"V souboru s tahy je příliš mnoho let, archiv jich pojme nejvýše "_qs +
+                             Cislo(Nejvic_Let) + u'.');
             je_rok = true;
             text_roku = text;
             vysledek.Roky.emplace_back().Rok = int16_t(rok);
         }
         const int64_t tyden = Pole_Dbf(bajty, o + 5, 2);
         if (tyden > 53)
-            return Chyba(u"V souboru s tahy má rok "_qs + Cislo(rok) + u" týden "_qs + Cislo(tyden) +
-                         u", rok ale má jen týdny 1 až 53."_qs);
+            return Chyba(u"V souboru s tahy je u roku "_qs + Cislo(rok) + u" týden "_qs + Cislo(tyden) +
+                         u", rok má ale jen týdny 1 až 53."_qs);
         // The source's week 36 of 1968 is known to be wrong and must stay out of the archive.
         if (tyden < 1 || Pole_Dbf(bajty, o + 7, 2) <= 0 || (rok == 1968 && tyden == 36))
             continue;
@@ -130,8 +153,8 @@ Import_Vysledek Importuj_Dbf(const QByteArray& bajty, const Prubeh& prubeh) {
         const bool je_tah2 = Pole_Dbf(bajty, o + 21, 2) > 0;
         const auto tah2 = je_tah2 ? Tah_Dbf(bajty, o + 21) : std::optional<Tah>(Tah{});
         if (!tah1 || !tah2)
-            return Chyba(u"V souboru s tahy je u roku "_qs + Cislo(rok) + u", týdne "_qs + Cislo(tyden) +
-                         u" číslo mimo rozsah 0 až 255."_qs);
+            return Chyba(u"V souboru s tahy je v týdnu "_qs + Cislo(tyden) + u" roku "_qs + Cislo(rok) +
+                         u" tažené číslo mimo rozsah 0 až 255."_qs);
         Tyden_Zaznam& zaznam = vysledek.Roky.back().Tyden[int(tyden)];
         zaznam.Je_Tah1 = Vb::Pravda;
         zaznam.Tah1 = *tah1;
@@ -145,6 +168,8 @@ Import_Vysledek Importuj_Dbf(const QByteArray& bajty, const Prubeh& prubeh) {
 }
 
 Import_Vysledek Importuj_Csv(const QByteArray& bajty, Den den, const Prubeh& prubeh) {
+    if (const auto proc = Neni_Text_Csv(bajty))
+        return Chyba(u"Soubor s tahy není textový soubor CSV, "_qs + *proc + u'.');
     const int kod_dne = den == Den::Streda ? 3 : 7;
     std::map<int, Rok_Zaznam> roky;
     Sledovani_Prubehu sledovani(prubeh, bajty.size());
@@ -152,15 +177,20 @@ Import_Vysledek Importuj_Csv(const QByteArray& bajty, Den den, const Prubeh& pru
     int cislo_radku = 0;
     std::vector<QByteArrayView> pole;
     for (qsizetype o = 0; o < bajty.size();) {
-        qsizetype konec = bajty.indexOf('\n', o);
-        if (konec < 0)
-            konec = bajty.size();
-        QByteArrayView radek = QByteArrayView(bajty).sliced(o, konec - o);
-        o = konec + 1;
         ++cislo_radku;
+        // The end of the line is looked for only as far as a line may reach, CR LF included.
+        const QByteArrayView zbytek = QByteArrayView(bajty).sliced(o);
+        QByteArrayView radek = zbytek.first(std::min(zbytek.size(), Nejdelsi_Radek_Csv + 2));
+        const qsizetype konec = radek.indexOf('\n');
+        if (konec >= 0)
+            radek.truncate(konec);
+        o += radek.size() + 1;
         sledovani.Krok(o);
         if (radek.endsWith('\r'))
             radek.chop(1);
+        if (radek.size() > Nejdelsi_Radek_Csv)
+            return Chyba(u"Chyba na řádku "_qs + Cislo(cislo_radku) + u" souboru s tahy: řádek je příliš dlouhý (přes "_qs +
+                         Cislo(Nejdelsi_Radek_Csv) + u" bajtů), řádek s tahem jich mívá kolem 60."_qs);
         if (Orez(radek).isEmpty())
             continue;
         pole.clear();
@@ -181,29 +211,31 @@ Import_Vysledek Importuj_Csv(const QByteArray& bajty, Den den, const Prubeh& pru
             return Chyba(u"Chyba na řádku "_qs + Cislo(cislo_radku) + u" souboru s tahy: "_qs + co);
         };
         if (int(pole.size()) < Sloupcu_Csv)
-            return vadny(u"má "_qs + Cislo(pole.size()) + u" sloupců místo 18."_qs);
+            return vadny(u"řádek má "_qs + Cislo(pole.size()) + u' ' +
+                         modTombi::Tvar_Poctu(int64_t(pole.size()), u"sloupec"_qs, u"sloupce"_qs, u"sloupců"_qs) +
+                         u" místo 18."_qs);
         const auto rok = Cele_Cislo(pole[1]);
         if (!rok)
-            return vadny(u"rok "_qs + Ukazka(pole[1]) + u" není číslo."_qs);
+            return vadny(u"rok "_qs + Ukazka(pole[1]) + u" není celé číslo."_qs);
         if (*rok < 1 || *rok > 9999)
             return vadny(u"rok "_qs + Cislo(*rok) + u" je mimo rozsah 1 až 9999."_qs);
         const auto tyden = Cele_Cislo(pole[2]);
         if (!tyden)
-            return vadny(u"týden "_qs + Ukazka(pole[2]) + u" není číslo."_qs);
+            return vadny(u"týden "_qs + Ukazka(pole[2]) + u" není celé číslo."_qs);
         if (*tyden < 1 || *tyden > 53)
             return vadny(u"týden "_qs + Cislo(*tyden) + u" je mimo rozsah 1 až 53."_qs);
         const auto den_tahu = Cele_Cislo(pole[3]);
         if (!den_tahu)
-            return vadny(u"den "_qs + Ukazka(pole[3]) + u" není číslo."_qs);
+            return vadny(u"den tahu "_qs + Ukazka(pole[3]) + u" není celé číslo."_qs);
         Tah tah1, tah2;
         for (int i = 0; i < 14; ++i) {
             const QByteArrayView text = pole[std::size_t(4 + i)];
             // An empty cell is a number that was not drawn, as 0 is in the archive.
             const auto n = Orez(text).isEmpty() ? std::optional<int>(0) : Cele_Cislo(text);
             if (!n)
-                return vadny(u"číslo "_qs + Ukazka(text) + u" není číslo."_qs);
+                return vadny(u"tažené číslo "_qs + Ukazka(text) + u" není celé číslo."_qs);
             if (*n > 49)
-                return vadny(u"číslo "_qs + Cislo(*n) + u" je větší než 49."_qs);
+                return vadny(u"tažené číslo "_qs + Cislo(*n) + u" je větší než 49."_qs);
             (i < 7 ? tah1 : tah2)[i % 7 + 1] = uint8_t(*n);
         }
         if (*den_tahu != kod_dne)
@@ -231,54 +263,54 @@ Import_Vysledek Importuj_Csv(const QByteArray& bajty, Den den, const Prubeh& pru
     return vysledek;
 }
 
+bool Je_Zdroj_Csv(const QString& soubor) {
+    return soubor.endsWith(u".csv"_qs, Qt::CaseInsensitive);
+}
+
+QString Text_Chybneho_Zdroje(const QString& soubor, bool csv) {
+    // The dBase source has always been named so, as the operator offered the same data as a sheet.
+    const QString jmeno = csv ? soubor : soubor.left(std::max<qsizetype>(0, soubor.size() - 4)) + u".dbf (.xls)"_qs;
+    return u"Není soubor s tahy \""_qs + jmeno + u"\" nebo je v něm chyba."_qs;
+}
+
 Vysledek Importuj_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QString& soubor_dbf,
                        const QString& zaloha_tahu, int smazat_dbf, const Prubeh& prubeh) {
     const QString zdroj = Spoj_Cestu(adresar, soubor_dbf);
-    const QString chybny_zdroj = u"Není soubor s tahy \""_qs +
-                                 soubor_dbf.left(std::max<qsizetype>(0, soubor_dbf.size() - 4)) +
-                                 u".dbf (.xls)\" nebo je v něm chyba."_qs;
+    const QString chybny_zdroj = Text_Chybneho_Zdroje(soubor_dbf, Je_Zdroj_Csv(soubor_dbf));
     if (archiv.Soubor_Tahu.isEmpty())
         return Vysledek::Chyba(u"Není zvolen den tahů, import nelze provést."_qs);
-    const auto bajty = Nacti_Soubor(zdroj);
-    if (!bajty)
-        return Vysledek::Chyba(chybny_zdroj);
+    const Nacteny_Soubor nacteny = Nacti_Soubor(zdroj, Nejvic_Zdroje_Tahu);
+    if (!nacteny.Ok())
+        return Vysledek::Chyba(nacteny.Nelze_Otevrit ? chybny_zdroj : nacteny.Zprava(soubor_dbf));
+    const QByteArray& bajty = nacteny.Data;
 
     Import_Vysledek import;
-    if (soubor_dbf.endsWith(u".csv"_qs, Qt::CaseInsensitive)) {
+    if (Je_Zdroj_Csv(soubor_dbf)) {
         const auto den = Den_Souboru_Tahu(archiv.Soubor_Tahu);
         if (!den)
             return Vysledek::Chyba(u"Ze jména souboru \""_qs + archiv.Soubor_Tahu + u"\" nelze poznat den tahů."_qs);
-        import = Importuj_Csv(*bajty, *den, prubeh);
+        import = Importuj_Csv(bajty, *den, prubeh);
     } else {
-        import = Importuj_Dbf(*bajty, prubeh);
+        import = Importuj_Dbf(bajty, prubeh);
     }
     if (!import.Stav.Ok())
         return import.Stav;
     if (import.Pocet_Let() == 0) {
         // An empty file is what a failed download leaves: it goes, so it is not taken again.
-        if (bajty->isEmpty())
+        if (bajty.isEmpty())
             QFile::remove(zdroj);
         return Vysledek::Chyba(chybny_zdroj);
     }
 
-    // The source is read before anything is backed up, so a bad source changes nothing on disk.
-    const QString zive = Spoj_Cestu(adresar, archiv.Soubor_Tahu);
-    bool zalohovano = false;
-    if (zaloha_tahu == u"1"_qs && QFile::exists(zive)) {
-        const Vysledek zaloha = Zaloha_Souboru(0, archiv, adresar, archiv.Soubor_Tahu);
-        if (!zaloha.Ok())
-            return zaloha;
-        zalohovano = true;
-    }
+    // The source is read before anything is backed up, so a bad source changes nothing on disk;
+    // the backup and the write are one step that either happens whole or leaves both files be.
     Archiv_Tahu nove;
     nove.Pocet_Let = import.Pocet_Let();
     nove.Pole_Tahu = std::move(import.Roky);
-    const Vysledek zapis = Uloz_Tahy(nove, adresar, archiv.Soubor_Tahu);
-    if (!zapis.Ok()) {
-        if (zalohovano)
-            QFile::rename(Spoj_Cestu(adresar, Jmeno_Zalohy(archiv.Soubor_Tahu)), zive);
+    const Vysledek zapis = zaloha_tahu == u"1"_qs ? Zaloha_Souboru(1, nove, adresar, archiv.Soubor_Tahu)
+                                                   : Uloz_Tahy(nove, adresar, archiv.Soubor_Tahu);
+    if (!zapis.Ok())
         return zapis;
-    }
     archiv.Pole_Tahu = std::move(nove.Pole_Tahu);
     archiv.Pocet_Let = nove.Pocet_Let;
     if (smazat_dbf == 1)

@@ -33,3 +33,10 @@ void Zapis_Souboru(const QString& cesta, const QByteArray& data);
 // Runs `zapis` with room for only `volno` bytes in any file. The file-size limit stops a write
 // halfway as a full disk does, and unlike a read-only folder it holds for root too.
 Vysledek Pri_Plnem_Disku(int64_t volno, const std::function<Vysledek()>& zapis);
+
+// Runs `f` as a user whom file permissions bind: root gives up its override of them meanwhile.
+// False, with `f` not run, where that cannot be done.
+bool Podle_Prav_Souboru(const std::function<void()>& f);
+
+// The peak memory of the process so far, in MiB.
+int64_t Spicka_Pameti_MiB();

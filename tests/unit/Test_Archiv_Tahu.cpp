@@ -111,17 +111,39 @@ private slots:
         QCOMPARE(Nacti_Tahy(a, dir.path(), u"SpN_tahy.sez"_qs).Zprava, Chybi);
         QCOMPARE(std::pair(a.Pocet_Let, a.Pole_Tahu.size()), std::pair(0, std::size_t(1)));
         QVERIFY(a.Tahy_Nacteny);
+
+        // A file that is there but is no archive is refused with its reason, unread.
+        QFile velky(dir.filePath(u"SpN_tahy.sez"_qs));
+        QVERIFY(velky.open(QIODevice::WriteOnly) && velky.resize(32 * 1024 * 1024 + 1));
+        QCOMPARE(Nacti_Tahy(a, dir.path(), u"SpN_tahy.sez"_qs).Zprava,
+                 u"Soubor \"SpN_tahy.sez\" nelze načíst: má 33 554 433 bajtů, soubor tohoto druhu může mít nejvýše 32 MiB."_qs);
+        QVERIFY(QDir(dir.path()).mkdir(u"SpS_tahy.sez"_qs));
+        QCOMPARE(Nacti_Tahy(a, dir.path(), u"SpS_tahy.sez"_qs).Zprava,
+                 u"Soubor \"SpS_tahy.sez\" nelze načíst: je to složka, ne soubor."_qs);
     }
 
-    void nepovedeny_zapis_necha_stary_soubor() {
+    void nepovedeny_zapis_rekne_proc_a_necha_stary_soubor() {
         QTemporaryDir dir;
         const QString cesta = dir.filePath(u"SpS_tahy.sez"_qs);
         Zapis_Souboru(cesta, Rok_Bajty(2010));
+        QVERIFY(QDir(dir.path()).mkdir(u"slozka"_qs));
         const Archiv_Tahu a = Archiv_S_Roky({2010, 2011, 2012});
-        QVERIFY(!Uloz_Tahy(a, dir.filePath(u"neni"_qs), u"SpS_tahy.sez"_qs).Ok());
-        QVERIFY(!Pri_Plnem_Disku(956 + 100, [&] { return Uloz_Tahy(a, dir.path(), u"SpS_tahy.sez"_qs); }).Ok());
+        const auto uloz = [&](const QString& adresar, const QString& soubor) { return Uloz_Tahy(a, adresar, soubor); };
+        const QString nelze = u"Soubor \"%1\" nelze zapsat: "_qs;
+
+        QCOMPARE(uloz(dir.filePath(u"neni"_qs), u"x.sez"_qs).Zprava,
+                 nelze.arg(dir.filePath(u"neni/x.sez"_qs)) + u"složka \"%1\" neexistuje."_qs.arg(dir.filePath(u"neni"_qs)));
+        QCOMPARE(uloz(dir.path(), u"slozka"_qs).Zprava, nelze.arg(dir.filePath(u"slozka"_qs)) + u"je to složka, ne soubor."_qs);
+        QCOMPARE(Pri_Plnem_Disku(956 + 100, [&] { return uloz(dir.path(), u"SpS_tahy.sez"_qs); }).Zprava,
+                 nelze.arg(cesta) + u"soubor by byl větší, než systém dovoluje."_qs);
         QCOMPARE(Obsah_Souboru(cesta), Rok_Bajty(2010));
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{u"SpS_tahy.sez"_qs});
+
+        QFile::setPermissions(dir.filePath(u"slozka"_qs), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+        Vysledek bez_prav;
+        if (!Podle_Prav_Souboru([&] { bez_prav = uloz(dir.filePath(u"slozka"_qs), u"x.sez"_qs); }))
+            QSKIP("Práva souborů zde nelze uplatnit.");
+        QCOMPARE(bez_prav.Zprava, nelze.arg(dir.filePath(u"slozka/x.sez"_qs)) + u"chybí oprávnění k zápisu."_qs);
     }
 
     void zaloha_a_obnova() {
@@ -131,9 +153,11 @@ private slots:
         Archiv_Tahu a = Archiv_S_Roky({1999, 2000});
         Nastav_Den_Archivu(a, Den::Nedele);
 
-        // Nothing to back up: the old backup stays.
+        // Nothing to back up: kind 0 fails, kind 1 just writes the archive; the old backup stays.
         Zapis_Souboru(zal, "stara");
-        QCOMPARE(Zaloha_Souboru(1, a, dir.path(), a.Soubor_Tahu).Zprava, Chybi);
+        QCOMPARE(Zaloha_Souboru(0, a, dir.path(), a.Soubor_Tahu).Zprava, Chybi);
+        QVERIFY(Zaloha_Souboru(1, a, dir.path(), a.Soubor_Tahu).Ok());
+        QCOMPARE(Obsah_Souboru(zive), Zapis_Roky(a.Pole_Tahu, 2));
         QCOMPARE(Obsah_Souboru(zal), QByteArray("stara"));
 
         // Kind 0 moves the file; kind 1 also writes memory anew. Only the newer backup stays.
@@ -145,6 +169,13 @@ private slots:
         QVERIFY(Zaloha_Souboru(1, a, dir.path(), a.Soubor_Tahu).Ok());
         QCOMPARE(Obsah_Souboru(zal), QByteArray("druha"));
         QCOMPARE(Obsah_Souboru(zive), Zapis_Roky(a.Pole_Tahu, 2));
+
+        // A write that fails leaves the archive and its backup as they were, and nothing beside them.
+        Zapis_Souboru(zive, "treti");
+        QVERIFY(!Pri_Plnem_Disku(956 + 100, [&] { return Zaloha_Souboru(1, a, dir.path(), a.Soubor_Tahu); }).Ok());
+        QCOMPARE(Obsah_Souboru(zive), QByteArray("treti"));
+        QCOMPARE(Obsah_Souboru(zal), QByteArray("druha"));
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files), (QStringList{u"SpN_tahy.sez"_qs, u"SpN_tahy.zal"_qs}));
 
         QVERIFY(Obnov_Zalohu(a, dir.path()).Ok());
         QCOMPARE(Obsah_Souboru(zive), QByteArray("druha"));

@@ -3,10 +3,12 @@
 #include "Bajty.h"
 #include "net/Import_Tahu.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
+#include <sys/stat.h>
 
 namespace {
 
@@ -86,22 +88,39 @@ private slots:
         QTest::addColumn<QString>("zprava");
         const QByteArray dobry = Zaznam("1999", "01", Cisla_Tahu);
         QTest::newRow("dbf týden 54") << Dbf({dobry, Zaznam("1999", "54", Cisla_Tahu)}) << false
-                                      << u"V souboru s tahy má rok 1999 týden 54, rok ale má jen týdny 1 až 53."_qs;
+                                      << u"V souboru s tahy je u roku 1999 týden 54, rok má ale jen týdny 1 až 53."_qs;
         QTest::newRow("dbf záporné číslo")
             << Dbf({dobry, Zaznam("2001", "02", " 1 2 3 4-5 6 7" + Cisla_Tahu.mid(14))}) << false
-            << u"V souboru s tahy je u roku 2001, týdne 2 číslo mimo rozsah 0 až 255."_qs;
+            << u"V souboru s tahy je v týdnu 2 roku 2001 tažené číslo mimo rozsah 0 až 255."_qs;
         QTest::newRow("dbf zkrácený záznam") << Dbf({dobry}, false) + Zaznam("2000", "01", Cisla_Tahu).left(20) << false
                                              << u"Soubor s tahy je neúplný: poslední záznam (rok 2000) je zkrácený."_qs;
         // The bad line is the fourth, after a good line and an empty one, and of the other draw day:
         // every line is checked, not only those that are taken.
         const QByteArray csv = Hlavicka_Csv + "\r\n1. 1. 2001;2001;01;3;1;2;3;4;5;6;7;1;2;3;4;5;6;7\r\n\r\n";
         const QString radek = u"Chyba na řádku 4 souboru s tahy: "_qs;
-        QTest::newRow("csv málo sloupců")
-            << csv + "1. 1. 2000;2000;01;7;1;2;3" << true << radek + u"má 7 sloupců místo 18."_qs;
+        QTest::newRow("csv 1 sloupec") << csv + "1. 1. 2000" << true << radek + u"řádek má 1 sloupec místo 18."_qs;
+        QTest::newRow("csv 3 sloupce") << csv + "1. 1. 2000;2000;01" << true << radek + u"řádek má 3 sloupce místo 18."_qs;
+        QTest::newRow("csv 7 sloupců")
+            << csv + "1. 1. 2000;2000;01;7;1;2;3" << true << radek + u"řádek má 7 sloupců místo 18."_qs;
         QTest::newRow("csv rok") << csv + "x;20x0;01;7;1;2;3;4;5;6;7;1;2;3;4;5;6;7\r\n"
-                                 << true << radek + u"rok \"20x0\" není číslo."_qs;
+                                 << true << radek + u"rok \"20x0\" není celé číslo."_qs;
         QTest::newRow("csv číslo 50") << csv + "x;2000;01;7;1;2;3;4;5;6;7;1;2;3;50;5;6;7" << true
-                                      << radek + u"číslo 50 je větší než 49."_qs;
+                                      << radek + u"tažené číslo 50 je větší než 49."_qs;
+        QTest::newRow("csv dlouhý řádek") << csv + QByteArray(1025, ';') + "\r\n" << true
+                                          << radek + u"řádek je příliš dlouhý (přes 1024 bajtů), řádek s tahem jich mívá kolem 60."_qs;
+        // Saved as "Unicode" text, with or without the byte order mark, or no text at all: not years.
+        const QString utf16 = u"Soubor s tahy není textový soubor CSV, je uložen v kódování UTF-16; uložte ho jako CSV v "
+                              u"kódování UTF-8 nebo Windows-1250."_qs;
+        const auto v_utf16 = [&](const QByteArray& text) {
+            QByteArray b;
+            for (const char c : text)
+                b += QByteArray(1, c) + '\0';
+            return b;
+        };
+        QTest::newRow("csv UTF-16") << "\xFF\xFE" + v_utf16(csv) << true << utf16;
+        QTest::newRow("csv UTF-16 bez BOM") << v_utf16(csv) << true << utf16;
+        QTest::newRow("csv nuly") << QByteArray(4096, '\0') << true
+                                  << u"Soubor s tahy není textový soubor CSV, obsahuje binární data."_qs;
     }
     void chyby() {
         QFETCH(QByteArray, bajty);
@@ -110,6 +129,15 @@ private slots:
         const auto v = csv ? Importuj_Csv(bajty, Den::Streda) : Importuj_Dbf(bajty);
         QCOMPARE(v.Stav.Zprava, zprava + u" Import byl ukončen, archiv tahů zůstal beze změny."_qs);
         QCOMPARE(v.Roky.size(), std::size_t(1));
+    }
+
+    void csv_obri_radek_odmitnut_hned() {
+        // One line of 100 MB, all separators: refused before it is split, and so without memory for its fields.
+        const QByteArray obri(100 * 1024 * 1024, ';');
+        const int64_t pred = Spicka_Pameti_MiB();
+        const auto v = Importuj_Csv(obri, Den::Nedele);
+        QVERIFY(v.Stav.Zprava.startsWith(u"Chyba na řádku 1 souboru s tahy: řádek je příliš dlouhý"_qs));
+        QVERIFY2(Spicka_Pameti_MiB() - pred < 16, qPrintable(QString::number(Spicka_Pameti_MiB() - pred)));
     }
 
     void csv_radky_dny_a_poradi() {
@@ -193,11 +221,14 @@ private slots:
         QCOMPARE(Obsah_Souboru(zal), stary);
         QVERIFY(!QFile::exists(zdroj));
 
-        // A CSV source is read for the day of the archive.
+        // A CSV source is read for the day of the archive, and named as it is when it holds no draws.
         Zapis_Souboru(dir.filePath(u"sportka.csv"_qs), Historie);
         Nastav_Den_Archivu(a, Den::Streda);
         QVERIFY(Importuj_Tahy(a, dir.path(), u"sportka.csv"_qs, u"1"_qs, 0).Ok());
         QCOMPARE(std::pair(int(a.Pole_Tahu[1].Rok), a.Pocet_Let), std::pair(1995, 32));
+        Zapis_Souboru(dir.filePath(u"sportka.csv"_qs), Hlavicka_Csv);
+        QCOMPARE(Importuj_Tahy(a, dir.path(), u"sportka.csv"_qs, u"1"_qs, 0).Zprava,
+                 u"Není soubor s tahy \"sportka.csv\" nebo je v něm chyba."_qs);
     }
 
     void import_bez_tahu_nebo_s_chybou() {
@@ -212,10 +243,10 @@ private slots:
         const QByteArray stary = Zapis_Roky(a.Pole_Tahu, 1);
         Zapis_Souboru(zive, stary);
         const auto import = [&] { return Importuj_Tahy(a, dir.path(), u"sportka-nedele.dbf"_qs, u"1"_qs, 1); };
-        const auto beze_zmeny = [&](bool zdroj_zustal) {
+        const auto beze_zmeny = [&](bool zdroj_zustal, const QByteArray& zaloha = "<chybí>") {
             QVERIFY(a.Pole_Tahu == puvodni && a.Pocet_Let == 1);
             QCOMPARE(Obsah_Souboru(zive), stary);
-            QVERIFY(!QFile::exists(dir.filePath(u"SpN_tahy.zal"_qs)));
+            QCOMPARE(Obsah_Souboru(dir.filePath(u"SpN_tahy.zal"_qs)), zaloha);
             QCOMPARE(QFile::exists(zdroj), zdroj_zustal);
         };
 
@@ -232,10 +263,26 @@ private slots:
         QVERIFY(import().Zprava.contains(u"týden 54"_qs));
         beze_zmeny(true);
 
-        // A write that fails halfway puts the backup back as the live file.
+        // A source that is no file, or far too large for one, is refused unread.
+        QFile::remove(zdroj);
+        QVERIFY(mkfifo(QFile::encodeName(zdroj).constData(), 0600) == 0);
+        QCOMPARE(import().Zprava, u"Soubor \"sportka-nedele.dbf\" nelze načíst: není to běžný soubor, ale zařízení, "
+                                  u"roura nebo soket."_qs);
+        QFile::remove(zdroj);
+        QFile velky(zdroj);
+        QVERIFY(velky.open(QIODevice::WriteOnly) && velky.resize(Nejvic_Zdroje_Tahu + 1));
+        velky.close();
+        QCOMPARE(import().Zprava, u"Soubor \"sportka-nedele.dbf\" nelze načíst: má 67 108 865 bajtů, soubor tohoto "
+                                  u"druhu může mít nejvýše 64 MiB."_qs);
+        beze_zmeny(true);
+
+        // A write that fails halfway leaves the archive and the older backup as they were.
+        Zapis_Souboru(dir.filePath(u"SpN_tahy.zal"_qs), "starsi");
         Zapis_Souboru(zdroj, Dbf({Zaznam("2001", "01", Cisla_Tahu), Zaznam("2002", "01", Cisla_Tahu)}));
         QVERIFY(!Pri_Plnem_Disku(Delka_Roku + 100, import).Ok());
-        beze_zmeny(true);
+        beze_zmeny(true, "starsi");
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files),
+                 (QStringList{u"SpN_tahy.sez"_qs, u"SpN_tahy.zal"_qs, u"sportka-nedele.dbf"_qs}));
     }
 };
 

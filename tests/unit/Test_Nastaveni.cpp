@@ -5,6 +5,7 @@
 #include "data/Soubory.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -112,6 +113,20 @@ private slots:
         QCOMPARE(z.Adresare[5], QString());
         // The first run writes the record at once.
         QCOMPARE(Obsah_Souboru(Cfg(p.Program())), Zapis_Nastaveni(z));
+    }
+
+    void necitelny_soubor_se_neprepise() {
+        // A tombi.cfg far too large for the record gives the defaults for the session, and the file stays.
+        Prostredi p;
+        QFile velky(Cfg(p.Program()));
+        QVERIFY(velky.open(QIODevice::WriteOnly) && velky.resize(Nejvic_Nastaveni + 1));
+        velky.close();
+        Nastaveni_Zaznam z;
+        QCOMPARE(Nacti_Nastaveni(z, p.Program(), u"1.43"_qs, p.Registr).Zprava,
+                 u"Soubor \"%1\" nelze načíst: má 1 048 577 bajtů, soubor tohoto druhu může mít nejvýše 1 MiB. "
+                 u"Program začíná s výchozím nastavením."_qs.arg(Cfg(p.Program())));
+        QCOMPARE(std::pair(z.Verze_Cfg, z.Vychozi_Tipu), std::pair(u"1.43"_qs, int16_t(8)));
+        QCOMPARE(QFileInfo(Cfg(p.Program())).size(), Nejvic_Nastaveni + 1);
     }
 
     void presunuta_instalace_data() {

@@ -3,6 +3,8 @@
 #include "Bajty.h"
 #include "data/Soubor_Tipu.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -84,7 +86,8 @@ private slots:
         stav.Soubor_Tipu.Pocet_Tipu = 77;
         stav.Jmeno_Souboru_Tipu = u"predtim"_qs;
         QCOMPARE(Nacti_Soubor_Tipu(stav, prazdny).Zprava, u"Soubor \"prazdny.tip\" je prázdný."_qs);
-        QCOMPARE(Nacti_Soubor_Tipu(stav, dir.filePath(u"neni.tip"_qs)).Zprava, u"Soubor \"neni.tip\" nelze načíst."_qs);
+        QCOMPARE(Nacti_Soubor_Tipu(stav, dir.filePath(u"neni.tip"_qs)).Zprava,
+                 u"Soubor \"neni.tip\" nelze načíst: soubor nebo složka neexistuje."_qs);
         QCOMPARE(stav.Soubor_Tipu.Pocet_Tipu, 77);
 
         // Refused as old, yet the store already holds what was read; the open file is still the one before.
@@ -110,24 +113,43 @@ private slots:
 
     void Konverze_Souboru() {
         QTemporaryDir dir;
-        const QString cesta = dir.filePath(u"stary.2001.tip"_qs);
-        Zapis_Souboru(cesta, Stary_Soubor({8, 1}, 9, "rodina.szn"));
+        const QString cesta = dir.filePath(u"stary.2001.tip"_qs), zal = dir.filePath(u"stary.2001.tip.zal"_qs);
+        const QByteArray stary = Stary_Soubor({8, 1}, 9, "rodina.szn");
+        Zapis_Souboru(cesta, stary);
 
-        // The converted file is taken as the open one, named without its last extension.
+        // The converted file is taken as the open one, named without its last extension; the original stays beside it.
         Stav_Tipu stav;
         QVERIFY(Konvertuj_Soubor_Tipu(stav, cesta).Ok());
         QVERIFY(stav.Je_Soubor_Tipu && stav.Jmeno_Souboru_Tipu == u"stary.2001"_qs);
         QCOMPARE(std::pair(stav.Seznam_Navazany, stav.Pocet_Tipu_Aktivni), std::pair(u"rodina.szn"_qs, int16_t(9)));
         const QByteArray novy = Obsah_Souboru(cesta);
         QCOMPARE(novy, Zapis_Zaznam_Tipu(stav.Soubor_Tipu));
+        QCOMPARE(Obsah_Souboru(zal), stary);
 
-        // A converted file (its old ticket count reads 0) and an old one without tickets are left alone.
+        // A converted file (its old ticket count reads 0), an old one without tickets and a current
+        // one of 813 tickets (whose ticket 813 holds what reads as an old count) are left alone.
         const QString zprava = u"Soubor \"stary.2001.tip\" není třeba konvertovat."_qs;
+        QFile::remove(zal);
         QCOMPARE(Konvertuj_Soubor_Tipu(stav, cesta).Zprava, zprava);
         QCOMPARE(Obsah_Souboru(cesta), novy);
         Zapis_Souboru(cesta, Stary_Soubor({}, 0));
         QCOMPARE(Konvertuj_Soubor_Tipu(stav, cesta).Zprava, zprava);
+        QByteArray velky(60806, '\0');
+        for (int c = 0; c < 10; ++c)
+            Dej_Tip(velky, 812 * 64 + 6 * c, 1 + c);
+        velky.replace(60800, 4, QByteArray(Bajty(813, 2) + Bajty(8130, 2)));
+        Zapis_Souboru(cesta, velky);
+        QCOMPARE(Konvertuj_Soubor_Tipu(stav, cesta).Zprava, zprava);
+        QCOMPARE(Obsah_Souboru(cesta), velky);
+        QVERIFY(!QFile::exists(zal));
         QCOMPARE(stav.Soubor_Tipu.Pocet_Tipu, 9);
+
+        // Without its backup no file is converted.
+        Zapis_Souboru(cesta, stary);
+        QVERIFY(QDir(dir.path()).mkdir(u"stary.2001.tip.zal"_qs));
+        QCOMPARE(Konvertuj_Soubor_Tipu(stav, cesta).Zprava,
+                 u"Soubor \"%1\" nelze zapsat: je to složka, ne soubor. Soubor \"stary.2001.tip\" proto nebyl převeden."_qs.arg(zal));
+        QCOMPARE(Obsah_Souboru(cesta), stary);
     }
 };
 

@@ -6,7 +6,10 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <cstdio>
+#include <functional>
 #include <memory>
+#include <sys/resource.h>
 
 namespace {
 
@@ -16,9 +19,13 @@ struct Beh {
     QString Chyby;
 };
 
-Beh Spust(const QStringList& argumenty) {
+// Runs tombi-cli, or `program`; `v_potomkovi` runs in the child before the program starts.
+Beh Spust(const QStringList& argumenty, const QString& program = QStringLiteral(TOMBI_CLI),
+          const std::function<void()>& v_potomkovi = {}) {
     QProcess p;
-    p.start(QStringLiteral(TOMBI_CLI), argumenty);
+    if (v_potomkovi)
+        p.setChildProcessModifier(v_potomkovi);
+    p.start(program, argumenty);
     p.waitForFinished(60000);
     return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts),
             QString::fromUtf8(p.readAllStandardError())};
@@ -73,6 +80,37 @@ private slots:
         QCOMPARE(Spust({u"tips"_qs, dir.filePath(u"a.tip"_qs)}).Radky,
                  (QStringList{u"tikety 2 tipy 2 seznam Parta.szn"_qs, u"1 0 10 1 2 3 4 5 6"_qs,
                               u"2 7 1 44 45 46 47 48 49"_qs}));
+    }
+
+    void Jmeno_Mimo_Utf8_A_Plny_Disk() {
+        QTemporaryDir dir;
+        // A name in Latin-1, as an old file system hands it over, opens as the shell passes it.
+        const auto z = std::make_unique<Zaznam_Tipu>();
+        z->Tikety[1].Cisla[1] = Tip{{1, 2, 3, 4, 5, 6}};
+        z->Pocet_Tiketu = 1;
+        z->Pocet_Tipu = 1;
+        const QByteArray tip = Zapis_Zaznam_Tipu(*z);
+        FILE* f = std::fopen(QFile::encodeName(dir.path()).append("/n\xE9" "d.tip").constData(), "wb");
+        QVERIFY(f && std::fwrite(tip.constData(), 1, size_t(tip.size()), f) == size_t(tip.size()));
+        std::fclose(f);
+        const QString prikaz = u"exec \"$0\" tips $2 \"$(printf '%s/n\\351d.tip' \"$1\")\""_qs;
+        const Beh cteni = Spust({u"-c"_qs, prikaz, QStringLiteral(TOMBI_CLI), dir.path()}, u"/bin/sh"_qs);
+        QCOMPARE(std::pair(cteni.Kod, cteni.Radky), std::pair(0, QStringList{u"tikety 1 tipy 1 seznam "_qs, u"1 0 1 1 2 3 4 5 6"_qs}));
+        const Beh konverze = Spust({u"-c"_qs, prikaz, QStringLiteral(TOMBI_CLI), dir.path(), u"--convert"_qs}, u"/bin/sh"_qs);
+        QCOMPARE(konverze.Kod, 1);
+        QVERIFY(konverze.Chyby.contains(u"není v kódování UTF-8"_qs));
+
+        // A file-size limit ends the write with a message, not the program with SIGXFSZ.
+        const QString sez = dir.filePath(u"SpS_tahy.sez"_qs);
+        const Beh import = Spust({u"import"_qs, u"--csv"_qs, QStringLiteral(TOMBI_HISTORIE), u"--den"_qs, u"streda"_qs,
+                                  u"--out"_qs, sez},
+                                 QStringLiteral(TOMBI_CLI), [] {
+                                     const rlimit mez{1000, 1000};
+                                     setrlimit(RLIMIT_FSIZE, &mez);
+                                 });
+        QCOMPARE(import.Kod, 1);
+        QCOMPARE(import.Chyby, u"Soubor \"%1\" nelze zapsat: soubor by byl větší, než systém dovoluje.\n"_qs.arg(sez));
+        QVERIFY(!QFile::exists(sez));
     }
 };
 
