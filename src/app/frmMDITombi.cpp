@@ -19,6 +19,7 @@
 #include "data/Nastaveni.h"
 #include "data/Nedavne_Soubory.h"
 #include "data/Soubory.h"
+#include "tips/frmVypisTipu.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -94,6 +95,7 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
     frmNapoveda::Pripoj_Prikazy(*this);
     frmOProgramu::Pripoj_Prikazy(*this);
     frmPrehled::Pripoj_Prikazy(*this);
+    frmVypisTipu::Pripoj_Prikazy(*this);
     Obnov_Povoleni();
 
     // A click anywhere on the main window sends the splash and the notice away; the click may
@@ -209,7 +211,7 @@ bool frmMDITombi::Je_Nehotovy(const QAction* prikaz) const {
     // Commands whose windows are still to come stay off; a command is switched on by taking it
     // out of this list once its window connects it.
     const QAction* const nehotove[] = {
-        mnuPripojSouborTipu, mnuSetriditSouborTipu, mnuGenerujTipy, mnuVlastniTipy,     mnuVyhodnoceniTipu,
+        mnuPripojSouborTipu, mnuSetriditSouborTipu, mnuGenerujTipy,
         mnuExportTipu,       mnuImportTipu,         mnuTiskTiketu,  mnuVypisTahu,       mnuRozsirSouborTahy,
         mnuAnalyza,          mnuAnalyzaAutomat,     mnuVypisAnalyz, mnuDownload,        mnuOtevriSeznam,
         mnuNovySeznam,       mnuVypisSeznamu,       mnuUvolnit,     mnuKonfigurace,     mnuWebTombiNovaVer,
@@ -475,6 +477,7 @@ void frmMDITombi::Zavri_Pro_Analyzu() {
     // In this order: the tip list, the draw list, the generator, the list of all tips, the
     // bettors' list, the notice, ticket printing and the about window; each window joins here once
     // it is built.
+    Zavri_Okno<frmVypisTipu>();
     Sluzby_Okna->Zavri_Oznameni();
     Zavri_Okno<frmOProgramu>();
     Pas_Stavu->txtRozpisAktivni->clear();

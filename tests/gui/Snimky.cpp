@@ -9,7 +9,10 @@
 #include "app/frmNapoveda.h"
 #include "app/frmNeniProcedura.h"
 #include "app/frmOProgramu.h"
+#include "app/frmKresleni.h"
 #include "app/frmPismo.h"
+#include "app/frmSloupec_Tiketu.h"
+#include "tips/frmVypisTipu.h"
 #include "app/frmPrehled.h"
 #include "app/frmTombi_uvod.h"
 #include "data/Chyby_A_Prehled.h"
@@ -19,6 +22,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QListWidget>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
@@ -68,6 +72,7 @@ QWidget* Start_Bez_Archivu() {
 
 int main(int argc, char** argv) {
     QApplication aplikace(argc, argv);
+    QApplication::setWindowIcon(frmKresleni::Ikona_Programu());
 
     // The main window behind the notices.
     QWidget hlavni;
@@ -97,6 +102,26 @@ int main(int argc, char** argv) {
              Pridej_Do_Prehledu(slozka.path(), u"S_261129_50.tip"_qs, u"Šťastná sedmička.szn"_qs, kdy.addDays(5));
              const QString cesta = slozka.filePath(Soubor_Prehledu);
              return new frmPrehled(cesta);
+         }},
+        // The tip list of a Thursday evening: 24 tips, the second tip chosen and crossed.
+        {u"frmVypisTipu"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 26));
+             Uloz_Soubor(prostredi.Cesta(u"261126_24.tip"_qs), Soubor_Tipu(24));
+             prostredi.Spust();
+             prostredi.Otevri_Tipy(u"261126_24.tip"_qs);
+             auto* vypis = prostredi.Okno->Najdi_Okno<frmVypisTipu>();
+             vypis->List1->setCurrentRow(2);
+             return prostredi.Okno.release();
+         }},
+        {u"frmSloupec_Tiketu"_qs,
+         [](QWidget*) -> QWidget* {
+             static Nastaveni_Zaznam nastaveni = Vychozi_Nastaveni(QString(), u"2.0"_qs);
+             auto* sloupec = new frmSloupec_Tiketu(nastaveni);
+             for (const int cislo : {3, 11, 19, 27, 36, 44})
+                 sloupec->Pridej_Krizek(cislo);
+             sloupec->Pridej_Ramecek(347 + 120 - 25, 347 + 80 - 25, QColor(255, 0, 0), 2);
+             return sloupec;
          }},
         {u"frmPismo"_qs,
          [](QWidget*) -> QWidget* { return new frmPismo(QFont(u"DejaVu Sans"_qs, 10), QColor(128, 0, 0)); }},

@@ -1,0 +1,498 @@
+#include "tips/frmVypisTipu.h"
+
+#include "app/Dialogy.h"
+#include "app/Hodiny.h"
+#include "app/Relace.h"
+#include "app/Sluzby_Oken.h"
+#include "app/Tabulka_Textu.h"
+#include "app/Vb.h"
+#include "app/frmMDITombi.h"
+#include "app/frmMDITombi_Stav.h"
+#include "app/frmSloupec_Tiketu.h"
+#include "app/modTombi.h"
+#include "app/pTikety.h"
+#include "data/Nedavne_Soubory.h"
+#include "data/Soubory.h"
+#include "tips/Vypis_Tipu.h"
+
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStackedLayout>
+#include <QVBoxLayout>
+
+namespace {
+
+// The window in twips: its width, and its height while the list or a panel shows.
+constexpr double Sirka_Okna = 11160;
+constexpr double Vyska_Okna = 5184;
+
+const QColor Cervena(255, 0, 0);
+const QColor Zelena(0, 255, 0);
+const QColor Seda(0xC0, 0xC0, 0xC0);
+
+QString Text(const QString& klic) {
+    return Tabulka_Textu::Programu().Text(u"frmVypisTipu."_qs + klic);
+}
+
+template <class T> T* Prvek(T* prvek, const QString& jmeno) {
+    prvek->setObjectName(jmeno);
+    if (const QString titulek = Text(jmeno); !titulek.isEmpty()) {
+        if constexpr (requires { prvek->setText(titulek); })
+            if (!qobject_cast<QLineEdit*>(prvek))
+                prvek->setText(titulek);
+    }
+    prvek->setToolTip(Text(jmeno + u".ToolTipText"_qs));
+    return prvek;
+}
+
+// The numbers of a tip line of the list; tokens that are no numbers above 0 are skipped.
+QList<int> Cisla_Radku(const QString& radek) {
+    QList<int> cisla;
+    for (const QString& slovo : radek.split(u' ', Qt::SkipEmptyParts))
+        if (const int n = int(Vb::Val(slovo)); n > 0)
+            cisla << n;
+    return cisla;
+}
+
+} // namespace
+
+frmVypisTipu::frmVypisTipu(frmMDITombi& ram, bool vlastni, QWidget* parent)
+    : QWidget(parent), List1(Prvek(new QListWidget(this), u"List1"_qs)), List2(Prvek(new QListWidget(this), u"List2"_qs)),
+      lstFIX(Prvek(new QListWidget(this), u"lstFIX"_qs)),
+      picSloupec_Vypis_Tipu(Prvek(new frmSloupec_Tiketu(ram.Sezeni().Nastaveni, this), u"picSloupec_Vypis_Tipu"_qs)),
+      txtSoubor_Tipu(Prvek(new QLineEdit(this), u"txtSoubor_Tipu"_qs)), Label9(Prvek(new QLabel(this), u"Label9"_qs)),
+      cmdUlozTipy(Prvek(new QPushButton(this), u"cmdUlozTipy"_qs)),
+      cmdPridej_Tipy(Prvek(new QPushButton(this), u"cmdPridej_Tipy"_qs)),
+      cmdPouzita_Cisla(Prvek(new QPushButton(this), u"cmdPouzita_Cisla"_qs)),
+      cmdZrusTip(Prvek(new QPushButton(this), u"cmdZrusTip"_qs)), cmdZpet(Prvek(new QPushButton(this), u"cmdZpet"_qs)),
+      txtOldCislo(Prvek(new QLineEdit(this), u"txtOldCislo"_qs)),
+      txtNewCislo(Prvek(new QLineEdit(this), u"txtNewCislo"_qs)),
+      cmdCisla_Tiketu(Prvek(new QPushButton(this), u"cmdCisla_Tiketu"_qs)),
+      cmdOpakovatGener(Prvek(new QPushButton(this), u"cmdOpakovatGener"_qs)),
+      cmdZrusit(Prvek(new QPushButton(this), u"cmdZrusit"_qs)), lblPocetRadek(Prvek(new QLabel(this), u"lblPocetRadek"_qs)),
+      Ram(ram), Sezeni(ram.Sezeni()) {
+    setObjectName(u"frmVypisTipu"_qs);
+    setWindowTitle(Tabulka_Textu::Programu().Text(u"frmVypisTipu"_qs));
+    Sezeni.Formular_Otevren_Tipy = true;
+
+    QFont pevne = List1->font();
+    pevne.setFamily(u"DejaVu Sans"_qs);
+    List1->setFont(pevne);
+    List1->setUniformItemSizes(true);
+    lstFIX->addItems({QString(), Text(u"lstFIX"_qs)});
+    lstFIX->setEnabled(false);
+    // The three panels of List2 are the evaluation's and the tip analysis's; until they stand their
+    // items cannot be chosen.
+    List2->addItems({u"Analýza on line"_qs, u"Výběr tipů"_qs, u"Vyhodnotit!"_qs});
+    for (int i = 0; i < List2->count(); ++i)
+        List2->item(i)->setFlags(Qt::NoItemFlags);
+    List2->setMaximumHeight(List2->sizeHintForRow(0) * 3 + 2 * List2->frameWidth() + 4);
+    Label9->setCursor(Qt::PointingHandCursor);
+    Label9->installEventFilter(this);
+    auto* lblCisla = new QLabel(Text(u"lblCisla_Tiketu"_qs), this);
+    // Repeating the run joins in with the generator window.
+    cmdOpakovatGener->setEnabled(false);
+    for (QLineEdit* cislo : {txtOldCislo, txtNewCislo})
+        cislo->setMaxLength(10);
+
+    auto* seznamy = new QStackedLayout;
+    seznamy->addWidget(List1);
+    seznamy->addWidget(lstFIX);
+    auto* vlevo = new QVBoxLayout;
+    vlevo->addLayout(seznamy, 1);
+    vlevo->addWidget(lblPocetRadek);
+
+    auto* cisla = new QGridLayout;
+    cisla->addWidget(lblCisla, 0, 0, 1, 2);
+    cisla->addWidget(txtOldCislo, 1, 0);
+    cisla->addWidget(txtNewCislo, 1, 1);
+    cisla->addWidget(cmdCisla_Tiketu, 2, 0, 1, 2);
+    auto* uprostred = new QVBoxLayout;
+    uprostred->addWidget(picSloupec_Vypis_Tipu, 0, Qt::AlignHCenter);
+    uprostred->addWidget(cmdPouzita_Cisla);
+    uprostred->addWidget(cmdPridej_Tipy);
+    uprostred->addWidget(cmdZrusTip);
+    uprostred->addStretch();
+
+    auto* vpravo = new QVBoxLayout;
+    vpravo->addWidget(List2);
+    vpravo->addWidget(Label9);
+    vpravo->addWidget(txtSoubor_Tipu);
+    vpravo->addWidget(cmdUlozTipy);
+    vpravo->addSpacing(8);
+    vpravo->addLayout(cisla);
+    vpravo->addStretch();
+    vpravo->addWidget(cmdZpet);
+    vpravo->addWidget(cmdOpakovatGener);
+    vpravo->addWidget(cmdZrusit);
+
+    auto* rozlozeni = new QHBoxLayout(this);
+    rozlozeni->addLayout(vlevo, 3);
+    rozlozeni->addLayout(uprostred, 0);
+    rozlozeni->addLayout(vpravo, 2);
+    resize(Pixely(Sirka_Okna, *this), Pixely(Vyska_Okna, *this));
+
+    connect(List1, &QListWidget::currentRowChanged, this, [this](int radek) {
+        if (!Meni_Cisla)
+            Vyznac_Krizky(radek);
+    });
+    connect(picSloupec_Vypis_Tipu, &frmSloupec_Tiketu::Klik, this, &frmVypisTipu::picSloupec_Klik);
+    connect(cmdPouzita_Cisla, &QPushButton::clicked, this, &frmVypisTipu::cmdPouzita_Cisla_Click);
+    connect(cmdPridej_Tipy, &QPushButton::clicked, this, &frmVypisTipu::cmdPridej_Tipy_Click);
+    connect(cmdZrusTip, &QPushButton::clicked, this, &frmVypisTipu::cmdZrusTip_Click);
+    connect(cmdUlozTipy, &QPushButton::clicked, this, &frmVypisTipu::cmdUlozTipy_Click);
+    connect(cmdCisla_Tiketu, &QPushButton::clicked, this, &frmVypisTipu::cmdCisla_Tiketu_Click);
+    connect(cmdZpet, &QPushButton::clicked, this, &frmVypisTipu::cmdZpet_Click);
+    connect(cmdZrusit, &QPushButton::clicked, this, [this] {
+        Sezeni.Tikety.Zrusit_Beh = true;
+        close();
+    });
+    connect(txtSoubor_Tipu, &QLineEdit::textEdited, this, [this] { Jmeno_Upraveno = true; });
+    Nacti(vlastni);
+}
+
+frmVypisTipu::~frmVypisTipu() {
+    Sezeni.Formular_Otevren_Tipy = false;
+}
+
+void frmVypisTipu::Prevezmi(frmMDITombi&, bool vlastni) {
+    Nacti(vlastni);
+}
+
+void frmVypisTipu::Nacti(bool vlastni) {
+    Vlastni_Tipy = false;
+    Pocet_Radek = 0;
+    picSloupec_Vypis_Tipu->Vycisti();
+    txtSoubor_Tipu->setText(Sezeni.Tipy.Jmeno_Souboru_Tipu);
+    Jmeno_Upraveno = !txtSoubor_Tipu->text().isEmpty();
+    Zrus_Zapis();
+    if (Sezeni.Tipy.Pocet_Tipu_Aktivni > 0 && !vlastni)
+        Vypis_Tipu_Do_Listu();
+    if (vlastni) {
+        cmdPridej_Tipy_Click();
+        List1->clear();
+        Sezeni.Sluzby->Nastav_Soubor_Tipu(QString::number(Sezeni.Tipy.Pocet_Tipu_Aktivni) + u" tipů"_qs);
+        Sezeni.Sluzby->Nastav_Status(QString(), QString());
+    }
+    Zaloha_Tipu = std::make_unique<Zaznam_Tipu>(Sezeni.Tipy.Soubor_Tipu);
+}
+
+void frmVypisTipu::Vypis_Tipu_Do_Listu() {
+    auto* seznamy = static_cast<QStackedLayout*>(List1->parentWidget()->layout()->itemAt(0)->layout());
+    Vypis_Tipu vypis;
+    {
+        seznamy->setCurrentWidget(lstFIX);
+        const Prace prace(Sezeni.Sluzby);
+        vypis = ::Vypis_Tipu_Do_Listu(Sezeni.Tipy.Soubor_Tipu, Sezeni.Tipy.Pocet_Tipu_Aktivni, prace.Prubeh_Prace());
+    }
+    const QSignalBlocker blokace(List1);
+    List1->clear();
+    List1->addItems(vypis.Radky);
+    seznamy->setCurrentWidget(List1);
+    Sezeni.Tipy.Soubor_Tipu.Pocet_Tipu = int16_t(vypis.Pocet_Tipu_Celkem);
+    Sezeni.Sluzby->Nastav_Soubor_Tipu(QString::number(vypis.Pocet_Tipu_Celkem));
+    if (!Jmeno_Upraveno || txtSoubor_Tipu->text().trimmed().isEmpty())
+        Navrhni_Jmeno();
+    int pocet = 0;
+    const QString pouzita = Text_Pouzitych_Cisel(vypis.Pouzita_Cisla, pocet);
+    Zobraz_Cisla(pouzita, pocet);
+    if (List1->currentRow() < 0)
+        Sezeni.Sluzby->Nastav_Aktivni_Poradi(QString());
+    if (!Vlastni_Tipy)
+        Pocet_Radek = 0;
+    lblPocetRadek->setText(QString::number(List1->count()));
+}
+
+void frmVypisTipu::Navrhni_Jmeno() {
+    txtSoubor_Tipu->setText(modTombi::Navrh_Jmena(Sezeni.Cas->Dnes(), Sezeni.Tipy.Soubor_Tipu.Pocet_Tipu,
+                                                  Sezeni.Tipy.Seznam_Navazany.size() > 2));
+    Jmeno_Upraveno = false;
+}
+
+bool frmVypisTipu::eventFilter(QObject* objekt, QEvent* udalost) {
+    if (objekt == Label9 && udalost->type() == QEvent::MouseButtonRelease)
+        Navrhni_Jmeno();
+    return QWidget::eventFilter(objekt, udalost);
+}
+
+void frmVypisTipu::Zobraz_Cisla(const QString& text, int pocet) {
+    Sezeni.Sluzby->Nastav_Status(text, pocet > 0 ? QString::number(pocet) : QString());
+}
+
+void frmVypisTipu::Vyznac_Krizky(int radek) {
+    if (radek < 0 || radek >= List1->count())
+        return;
+    const QString text = List1->item(radek)->text();
+    // Arrow keys step over the blank line between tickets.
+    if (text.trimmed().isEmpty()) {
+        const int dalsi = radek > Posledni_Radek ? radek + 1 : radek - 1;
+        Posledni_Radek = radek;
+        if (dalsi >= 0 && dalsi < List1->count())
+            List1->setCurrentRow(dalsi);
+        return;
+    }
+    Posledni_Radek = radek;
+    picSloupec_Vypis_Tipu->Vycisti();
+    if (text.contains(u"slo"_qs)) {
+        txtOldCislo->setText(text.mid(15));
+        Sezeni.Sluzby->Nastav_Status(QString(), QString());
+        Vyznac_Tiket(radek);
+        return;
+    }
+    QList<int> cisla = Cisla_Radku(text);
+    std::sort(cisla.begin(), cisla.end());
+    if (cisla.size() != 6 || std::adjacent_find(cisla.begin(), cisla.end()) != cisla.end())
+        Sezeni.Sluzby->Zprava(u"Chyba ve sloupci !!!"_qs);
+    QString radek_cisel;
+    for (const int n : cisla)
+        radek_cisel += u' ' + QString::number(n);
+    Zobraz_Cisla(radek_cisel, int(cisla.size()));
+    int celkem = 0, sloupec = 0;
+    pTikety::Poradi_Tip_CelkSlo(0, radek, celkem, sloupec);
+    Sezeni.Sluzby->Nastav_Aktivni_Poradi(QString::number(celkem) + u" / "_qs + QString::number(sloupec));
+    for (const int n : cisla)
+        picSloupec_Vypis_Tipu->Pridej_Krizek(n);
+}
+
+void frmVypisTipu::Vyznac_Tiket(int radek) {
+    const int tiket = radek / Radku_Na_Tiket + 1;
+    if (tiket < 1 || tiket > std::min<int>(Sezeni.Tipy.Soubor_Tipu.Pocet_Tiketu, Max_Tiketu))
+        return;
+    for (const Tip& tip : Sezeni.Tipy.Soubor_Tipu.Tikety[tiket].Cisla)
+        for (const uint8_t n : tip)
+            if (n != 0)
+                picSloupec_Vypis_Tipu->Pridej_Krizek(n);
+}
+
+// ---- Hand entry ----
+
+void frmVypisTipu::Obarvi_Zapis(const QColor& barva, bool povolit) {
+    cmdPouzita_Cisla->setStyleSheet(u"QPushButton { background: %1; }"_qs.arg(barva.name()));
+    cmdPouzita_Cisla->setEnabled(povolit);
+}
+
+void frmVypisTipu::Zrus_Zapis() {
+    cmdPouzita_Cisla->setText(Text(u"cmdPouzita_Cisla"_qs));
+    Obarvi_Zapis(Seda, true);
+    Vlastni_Tipy = false;
+}
+
+void frmVypisTipu::cmdPridej_Tipy_Click() {
+    if (Vlastni_Tipy)
+        return;
+    cmdPouzita_Cisla->setText(Text(u"cmdPouzita_Cisla.Zapis"_qs));
+    Obarvi_Zapis(Cervena, true);
+    picSloupec_Vypis_Tipu->Vycisti();
+    Vlastni_Tipy = true;
+    Pocet_Radek = 0;
+}
+
+void frmVypisTipu::Nakresli_Rozpracovany() {
+    picSloupec_Vypis_Tipu->Vycisti();
+    for (int i = 1; i <= Pocet_Radek; ++i)
+        picSloupec_Vypis_Tipu->Pridej_Krizek(Sezeni.Aktualni_Tip[i]);
+}
+
+void frmVypisTipu::picSloupec_Klik(int cislo, Qt::MouseButton, bool ctrl) {
+    // Ctrl+click fills the boxes of the drawn numbers, which come with the evaluation panel.
+    if (ctrl || (!Vlastni_Tipy && List1->count() > 0))
+        return;
+    List1->setCurrentRow(-1);
+    Tip& tip = Sezeni.Aktualni_Tip;
+    const auto konec = tip.begin() + Pocet_Radek;
+    if (const auto nalezeno = std::find(tip.begin(), konec, uint8_t(cislo)); cislo < 50 && nalezeno != konec) {
+        std::copy(nalezeno + 1, tip.end(), nalezeno);
+        tip[Tip::Pocet()] = 0;
+        --Pocet_Radek;
+        Nakresli_Rozpracovany();
+        Obarvi_Zapis(Cervena, true);
+    } else if (cislo == 50) {
+        if (!Vlastni_Tipy)
+            return;
+        Sezeni.Random.Dolni_Mez = 1;
+        Sezeni.Random.Horni_Mez = 49;
+        for (int i = 1; i <= Tip::Pocet(); ++i) {
+            do
+                tip[i] = uint8_t(Sezeni.Random.RandomInt());
+            while (std::find(tip.begin(), tip.begin() + (i - 1), tip[i]) != tip.begin() + (i - 1));
+        }
+        Pocet_Radek = Tip::Pocet();
+        Nakresli_Rozpracovany();
+        Obarvi_Zapis(Zelena, true);
+    } else if (Pocet_Radek < Tip::Pocet()) {
+        tip[++Pocet_Radek] = uint8_t(cislo);
+        picSloupec_Vypis_Tipu->Pridej_Krizek(cislo);
+        if (Pocet_Radek == Tip::Pocet())
+            Obarvi_Zapis(Zelena, true);
+    }
+    modTombi::Setrid_Tip(tip, 1, Pocet_Radek);
+    QString text;
+    for (int i = 1; i <= Pocet_Radek; ++i)
+        text += u' ' + QString::number(tip[i]);
+    Zobraz_Cisla(text, Pocet_Radek);
+}
+
+void frmVypisTipu::cmdPouzita_Cisla_Click() {
+    if (!Vlastni_Tipy) {
+        picSloupec_Vypis_Tipu->Vycisti();
+        const Vypis_Tipu vypis = ::Vypis_Tipu_Do_Listu(Sezeni.Tipy.Soubor_Tipu, Sezeni.Tipy.Pocet_Tipu_Aktivni);
+        for (int n = 1; n <= 49; ++n)
+            if (vypis.Pouzita_Cisla[std::size_t(n)])
+                picSloupec_Vypis_Tipu->Pridej_Krizek(n);
+        int pocet = 0;
+        const QString text = Text_Pouzitych_Cisel(vypis.Pouzita_Cisla, pocet);
+        Zobraz_Cisla(text, pocet);
+        return;
+    }
+    if (Pocet_Radek != Tip::Pocet())
+        return;
+    Stav_Tipu& tipy = Sezeni.Tipy;
+    const Vysledek pridani = Pridej_Tip(tipy.Soubor_Tipu, tipy.Pocet_Tipu_Aktivni, Sezeni.Aktualni_Tip);
+    if (!pridani.Ok()) {
+        Sezeni.Sluzby->Zprava(pridani.Zprava);
+        cmdPouzita_Cisla->setEnabled(false);
+        return;
+    }
+    Vypis_Tipu_Do_Listu();
+    Sezeni.Tikety.Zmena_Dat = true;
+    picSloupec_Vypis_Tipu->Vycisti();
+    List1->scrollToBottom();
+    Pocet_Radek = 0;
+    if (tipy.Pocet_Tipu_Aktivni >= Max_Tipu) {
+        cmdPouzita_Cisla->setEnabled(false);
+        Zrus_Zapis();
+    } else {
+        Obarvi_Zapis(Cervena, true);
+    }
+}
+
+// ---- Deleting, saving, ticket numbers, undo ----
+
+void frmVypisTipu::cmdZrusTip_Click() {
+    const int radek = List1->currentRow();
+    if (radek < 0 || List1->item(radek)->text().trimmed().isEmpty() || List1->item(radek)->text().contains(u"čís"_qs) ||
+        List1->count() == 0)
+        return;
+    // The list stands in 12 lines a ticket: the head, ten tips, the gap.
+    int tiket = 0, sloupec = 0;
+    pTikety::Zjisti_Tik_Slo(radek, Radku_Na_Tiket, tiket, sloupec);
+    if (!Vlastni_Tipy)
+        Zrus_Zapis();
+    Zrus_Tip(Sezeni.Tipy.Soubor_Tipu, tiket, sloupec);
+    Sezeni.Tipy.Pocet_Tipu_Aktivni = std::max<int16_t>(0, int16_t(Sezeni.Tipy.Pocet_Tipu_Aktivni - 1));
+    Sezeni.Tikety.Zmena_Dat = true;
+    picSloupec_Vypis_Tipu->Vycisti();
+    Vypis_Tipu_Do_Listu();
+    int vybrany = std::min(radek, List1->count() - 1);
+    while (vybrany > 0 && (List1->item(vybrany)->text().trimmed().isEmpty() ||
+                           List1->item(vybrany)->text().contains(u"čís"_qs)))
+        --vybrany;
+    Posledni_Radek = vybrany;
+    List1->setCurrentRow(vybrany);
+}
+
+void frmVypisTipu::cmdUlozTipy_Click() {
+    Stav_Tipu& tipy = Sezeni.Tipy;
+    tipy.Jmeno_Souboru_Tipu = txtSoubor_Tipu->text().trimmed();
+    if (tipy.Soubor_Tipu.Pocet_Tipu <= 0 || tipy.Jmeno_Souboru_Tipu.isEmpty()) {
+        Sezeni.Sluzby->Zprava(u"Nejsou tipy k uložení nebo jméno souboru tipů !"_qs);
+        return;
+    }
+    const QString jmeno = tipy.Jmeno_Souboru_Tipu + u".tip"_qs;
+    const QString cesta = Spoj_Cestu(Sezeni.Nastaveni.Adresare[1], jmeno);
+    if (QFileInfo::exists(cesta) &&
+        Sezeni.Dialog->Otazka(Dialogy::Ikona::Vykricnik, u"                  P O Z O R !!!"_qs,
+                              u"Soubor tipů stejného jména již existuje.\r\n              P Ř E P S A T ?"_qs,
+                              Dialogy::Tlacitka::OK_Zrusit, Dialogy::Odpoved::OK) != Dialogy::Odpoved::OK)
+        return;
+    const Vysledek ulozeni = Uloz_Soubor_Tipu(tipy, cesta);
+    if (!ulozeni.Ok()) {
+        Sezeni.Sluzby->Zprava(ulozeni.Zprava);
+        return;
+    }
+    Sezeni.Tikety.Zmena_Dat = false;
+    tipy.Je_Soubor_Tipu = true;
+    Ram.Pridej_Nedavny(Druh_Tipy, jmeno);
+    Sezeni.Sluzby->Zprava(u"Soubor s tipy uložen pod jménem  \""_qs + jmeno + u"\"."_qs);
+}
+
+void frmVypisTipu::cmdCisla_Tiketu_Click() {
+    Stav_Tipu& tipy = Sezeni.Tipy;
+    if (tipy.Pocet_Tipu_Aktivni == 0) {
+        txtOldCislo->clear();
+        txtNewCislo->clear();
+        return;
+    }
+    picSloupec_Vypis_Tipu->Vycisti();
+    if (txtOldCislo->text().trimmed().isEmpty() || txtNewCislo->text().trimmed().isEmpty()) {
+        Sezeni.Sluzby->Zprava(u"Není zadáno číslo tiketu STARÉ nebo NOVÉ"_qs);
+        return;
+    }
+    const auto stare = int32_t(std::clamp<double>(Vb::Val(txtOldCislo->text()), INT32_MIN, INT32_MAX));
+    const auto nove = int32_t(std::clamp<double>(Vb::Val(txtNewCislo->text()), INT32_MIN, INT32_MAX));
+    const Vysledek zmena = Zmen_Cislo_Tiketu(tipy.Soubor_Tipu, stare, nove);
+    if (!zmena.Ok()) {
+        Sezeni.Sluzby->Zprava(zmena.Zprava);
+        return;
+    }
+    if (tipy.Seznam_Navazany.size() <= 2)
+        tipy.Soubor_Tipu.Seznam_Soubor.clear();
+    // Written at once, to the file of the list's name; ".tip" as everywhere, since on this system
+    // ".TIP" would be a second file beside the first.
+    const Vysledek ulozeni =
+        Uloz_Soubor_Tipu(tipy, Spoj_Cestu(Sezeni.Nastaveni.Adresare[1], txtSoubor_Tipu->text().trimmed() + u".tip"_qs));
+    if (!ulozeni.Ok())
+        Sezeni.Sluzby->Zprava(ulozeni.Zprava);
+    const int radek = List1->currentRow();
+    Meni_Cisla = true;
+    for (int i = 0; i < List1->count(); ++i)
+        if (List1->item(i)->text() == Hlavicka_Tiketu(stare))
+            List1->item(i)->setText(Hlavicka_Tiketu(nove));
+    List1->setCurrentRow(radek);
+    Meni_Cisla = false;
+}
+
+void frmVypisTipu::cmdZpet_Click() {
+    Stav_Tipu& tipy = Sezeni.Tipy;
+    // A change that left the count as it was cannot be told from none, and is not undone.
+    if (Zaloha_Tipu == nullptr || tipy.Soubor_Tipu.Pocet_Tipu == Zaloha_Tipu->Pocet_Tipu)
+        return;
+    const int radku = List1->count();
+    tipy.Soubor_Tipu = *Zaloha_Tipu;
+    tipy.Pocet_Tipu_Aktivni = tipy.Soubor_Tipu.Pocet_Tipu;
+    Vypis_Tipu_Do_Listu();
+    if (List1->count() != radku)
+        Sezeni.Tikety.Zmena_Dat = true;
+}
+
+void frmVypisTipu::closeEvent(QCloseEvent* udalost) {
+    Sezeni.Sluzby->Nastav_Status(QString(), QString());
+    Sezeni.Sluzby->Nastav_Aktivni_Poradi(QString());
+    Vlastni_Tipy = false;
+    QWidget::closeEvent(udalost);
+}
+
+// ---- Commands ----
+
+void frmVypisTipu::Pripoj_Prikazy(frmMDITombi& ram) {
+    ram.Obsluz(ram.mnuVyhodnoceniTipu, [&ram] {
+        ram.Zavri_Formulare(1);
+        if (ram.Sezeni().Tipy.Soubor_Tipu.Pocet_Tiketu != 0)
+            ram.Otevri_Okno<frmVypisTipu>(ram, false);
+        else
+            ram.Sezeni().Sluzby->Zprava(u"Není soubor tipů."_qs);
+    });
+    ram.Obsluz(ram.mnuVlastniTipy, [&ram] {
+        // The generator, the draw list and the bettors' list close here too once they are built.
+        ram.Zavri_Okno<frmVypisTipu>();
+        ram.Otevri_Okno<frmVypisTipu>(ram, true);
+        ram.Sezeni().Sluzby->Nastav_Status(QString(), QString());
+    });
+    QObject::connect(&ram, &frmMDITombi::Tipy_Otevreny, &ram, [&ram] { ram.Otevri_Okno<frmVypisTipu>(ram, false); });
+}
