@@ -1,8 +1,10 @@
 // tombi-cli as a script sees it: its exit codes, its Czech messages on stderr, and the exact lines it
 // prints for archives and tip files.
+#include "Bajty.h"
 #include "data/Soubor_Tipu.h"
 #include "data/Soubory.h"
 
+#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -44,12 +46,44 @@ private slots:
         QTest::newRow("import bez vystupu")
             << QStringList{u"import"_qs, u"--csv"_qs, u"a.csv"_qs, u"--den"_qs, u"streda"_qs};
         QTest::newRow("archive spatny seznam") << QStringList{u"archive"_qs, u"a.sez"_qs, u"--list"_qs, u"3"_qs};
+        QTest::newRow("generate tipy 0") << QStringList{u"generate"_qs, u"--tipy"_qs, u"0"_qs, u"--out"_qs, u"a.tip"_qs};
+        QTest::newRow("generate tutovky 50")
+            << QStringList{u"generate"_qs, u"--tipy"_qs, u"5"_qs, u"--tutovky"_qs, u"1,50"_qs, u"--out"_qs, u"a.tip"_qs};
+        QTest::newRow("generate pouzit i vynechat")
+            << QStringList{u"generate"_qs, u"--tipy"_qs, u"5"_qs, u"--pouzit"_qs, u"1,2"_qs, u"--vynechat"_qs, u"3"_qs,
+                           u"--out"_qs, u"a.tip"_qs};
     }
     void Spatne_Pouziti_Vraci_2() {
         QFETCH(QStringList, argumenty);
         const Beh b = Spust(argumenty);
         QCOMPARE(std::pair(b.Kod, b.Radky), std::pair(2, QStringList()));
         QVERIFY(b.Chyby.contains(u"Použití"));
+    }
+
+    void Generovani() {
+        QTemporaryDir dir;
+        const auto generuj = [&](const QString& soubor, QStringList dalsi) {
+            return Spust(QStringList{u"generate"_qs, u"--out"_qs, dir.filePath(soubor)} + dalsi);
+        };
+        // The same seed gives the same file, byte for byte.
+        const QStringList volby{u"--tipy"_qs, u"25"_qs, u"--tutovky"_qs, u"7,40"_qs, u"--suma"_qs, u"100,200"_qs,
+                                u"--seminko"_qs, u"42"_qs};
+        const Beh prvni = generuj(u"a.tip"_qs, volby);
+        QCOMPARE(prvni.Kod, 0);
+        QCOMPARE(prvni.Radky, QStringList{u"tikety 3 tipy 25 hotovo 25 seminko 42"_qs});
+        QCOMPARE(generuj(u"b.tip"_qs, volby).Kod, 0);
+        QCOMPARE(Obsah_Souboru(dir.filePath(u"a.tip"_qs)), Obsah_Souboru(dir.filePath(u"b.tip"_qs)));
+        const Zaznam_Tipu z = Cti_Zaznam_Tipu(Obsah_Souboru(dir.filePath(u"a.tip"_qs)));
+        QCOMPARE(std::pair(int(z.Tikety[3].Cisla[5][1]), int(z.Tikety[3].Cisla[5][2])), std::pair(7, 40));
+        // A filter that can never be met runs until the time is up; nothing made is still written.
+        const Beh stop = generuj(u"c.tip"_qs, {u"--tipy"_qs, u"10"_qs, u"--rozsah"_qs, u"1,5"_qs, u"--cas"_qs, u"0.2"_qs});
+        QCOMPARE(stop.Kod, 0);
+        QVERIFY(stop.Radky.value(0).startsWith(u"tikety 1 tipy 10 hotovo 0 seminko "_qs));
+        QVERIFY(QFile::exists(dir.filePath(u"c.tip"_qs)));
+        // The run's own fault: the message, exit 1, and the tips of the first ticket written.
+        const Beh prunik = generuj(u"d.tip"_qs, {u"--tipy"_qs, u"30"_qs, u"--prunik"_qs, u"2"_qs});
+        QCOMPARE(std::pair(prunik.Kod, prunik.Chyby), std::pair(1, u"Upravte omezeni, nemožno zpracovat ...\n"_qs));
+        QVERIFY(prunik.Radky.value(0).startsWith(u"tikety 3 tipy 30 hotovo 10 "_qs));
     }
 
     void Archiv_A_Tipy() {
