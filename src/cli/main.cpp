@@ -6,6 +6,7 @@
 
 #include "data/Archiv_Tahu.h"
 #include "generator/Generator.h"
+#include "generator/Vyber_Cisel.h"
 #include "data/Nastaveni.h"
 #include "data/Soubor_Tipu.h"
 #include "data/Soubory.h"
@@ -336,11 +337,24 @@ int Generovani(const QStringList& args) {
                                              : Tiketu_Pro_Tipy(z.Pocet_Tipu);
     const QList<int> tutovky = cisla(u"--tutovky"_qs, 1, 3, 1, 49);
     z.Tutovky.assign(tutovky.begin(), tutovky.end());
+    // The pool as the window makes it: the list of "Použít" or "Vynechat", then Priprav_Okruh.
+    Vyber_Cisel vyber;
+    Boxy_Tutovek boxy{};
+    for (std::size_t i = 0; i < z.Tutovky.size(); ++i)
+        boxy[i] = uint8_t(z.Tutovky[i]);
     for (const QString& volba : {u"--pouzit"_qs, u"--vynechat"_qs})
         if (a.Volba(volba)) {
-            const QList<int> okruh = cisla(volba, 1, 49, 1, 49);
-            z.Okruh_Cisel.assign(okruh.begin(), okruh.end());
-            z.Vyber = volba == u"--pouzit" ? Vyber_Okruhu::Pouzit_Vybrana : Vyber_Okruhu::Vynechat_Vybrana;
+            const bool pouzit = volba == u"--pouzit";
+            vyber.Pouzit_Vybrana = pouzit;
+            vyber.Vynechat_Vybrana = !pouzit;
+            vyber.Volba_Vybrana = pouzit ? 1 : 2;
+            QList<int> seznam = cisla(volba, 1, 49, 1, 49);
+            std::sort(seznam.begin(), seznam.end());
+            if (std::adjacent_find(seznam.begin(), seznam.end()) != seznam.end() && spatna.isEmpty())
+                spatna = volba;
+            for (const int n : seznam)
+                Seznam_V_Platnosti(vyber)[++Pocet_V_Platnosti(vyber)] = uint8_t(n);
+            z.Vyber = pouzit ? Vyber_Okruhu::Pouzit_Vybrana : Vyber_Okruhu::Vynechat_Vybrana;
         }
     // A filter is on when its option is given; its limits come from the option.
     const auto filtr = [&](int index, const QString& volba, int pocet, int od, int do_) -> QList<int> {
@@ -393,6 +407,13 @@ int Generovani(const QStringList& args) {
         return Spatne_Pouziti(u"Chybná hodnota volby "_qs + spatna + u"."_qs);
     if (Jen_Ke_Cteni().contains(*vystup))
         return Nelze_Zapsat_Do(*vystup);
+
+    if (vyber.Pouzit_Vybrana || vyber.Vynechat_Vybrana) {
+        if (const Vysledek kontrola = Kontrola_Vyberu(vyber, 0, Zbytek_Cisel(vyber)); !kontrola.Ok())
+            return Chyba(kontrola.Zprava);
+        const int pocet = Priprav_Okruh(vyber, boxy);
+        z.Okruh_Cisel.assign(vyber.Okruh_Cisel.begin(), vyber.Okruh_Cisel.begin() + pocet);
+    }
 
     // Check1(2) walks the whole archive of the file, both draws.
     Archiv_Tahu archiv;

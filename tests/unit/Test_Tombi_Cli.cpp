@@ -75,6 +75,18 @@ private slots:
         QCOMPARE(Obsah_Souboru(dir.filePath(u"a.tip"_qs)), Obsah_Souboru(dir.filePath(u"b.tip"_qs)));
         const Zaznam_Tipu z = Cti_Zaznam_Tipu(Obsah_Souboru(dir.filePath(u"a.tip"_qs)));
         QCOMPARE(std::pair(int(z.Tikety[3].Cisla[5][1]), int(z.Tikety[3].Cisla[5][2])), std::pair(7, 40));
+        // A pool of ten with its tutovka: every tip takes the tutovka first and the rest from the pool.
+        QCOMPARE(generuj(u"p.tip"_qs, {u"--tipy"_qs, u"12"_qs, u"--pouzit"_qs, u"1,2,3,4,5,6,7,8,9,30"_qs, u"--tutovky"_qs,
+                                       u"30"_qs})
+                     .Kod,
+                 0);
+        const Zaznam_Tipu okruh = Cti_Zaznam_Tipu(Obsah_Souboru(dir.filePath(u"p.tip"_qs)));
+        for (int i = 0; i < 12; ++i) {
+            const Tip& tip = okruh.Tikety[i / 10 + 1].Cisla[i % 10 + 1];
+            QVERIFY(tip[1] == 30 && tip[6] <= 9);
+        }
+        QCOMPARE(generuj(u"q.tip"_qs, {u"--tipy"_qs, u"5"_qs, u"--pouzit"_qs, u"1,2,3"_qs}).Chyby,
+                 u"Vyber více čísel ...\n"_qs);
         // A filter that can never be met runs until the time is up; nothing made is still written.
         const Beh stop = generuj(u"c.tip"_qs, {u"--tipy"_qs, u"10"_qs, u"--rozsah"_qs, u"1,5"_qs, u"--cas"_qs, u"0.2"_qs});
         QCOMPARE(stop.Kod, 0);
