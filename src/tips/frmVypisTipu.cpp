@@ -76,7 +76,7 @@ frmVypisTipu::frmVypisTipu(frmMDITombi& ram, bool vlastni, QWidget* parent)
       cmdCisla_Tiketu(Prvek(new QPushButton(this), u"cmdCisla_Tiketu"_qs)),
       cmdOpakovatGener(Prvek(new QPushButton(this), u"cmdOpakovatGener"_qs)),
       cmdZrusit(Prvek(new QPushButton(this), u"cmdZrusit"_qs)), lblPocetRadek(Prvek(new QLabel(this), u"lblPocetRadek"_qs)),
-      Ram(ram), Sezeni(ram.Sezeni()) {
+      Seznamy(new QStackedLayout), Ram(ram), Sezeni(ram.Sezeni()) {
     setObjectName(u"frmVypisTipu"_qs);
     setWindowTitle(Tabulka_Textu::Programu().Text(u"frmVypisTipu"_qs));
     Sezeni.Formular_Otevren_Tipy = true;
@@ -101,11 +101,10 @@ frmVypisTipu::frmVypisTipu(frmMDITombi& ram, bool vlastni, QWidget* parent)
     for (QLineEdit* cislo : {txtOldCislo, txtNewCislo})
         cislo->setMaxLength(10);
 
-    auto* seznamy = new QStackedLayout;
-    seznamy->addWidget(List1);
-    seznamy->addWidget(lstFIX);
+    Seznamy->addWidget(List1);
+    Seznamy->addWidget(lstFIX);
     auto* vlevo = new QVBoxLayout;
-    vlevo->addLayout(seznamy, 1);
+    vlevo->addLayout(Seznamy, 1);
     vlevo->addWidget(lblPocetRadek);
 
     auto* cisla = new QGridLayout;
@@ -184,17 +183,16 @@ void frmVypisTipu::Nacti(bool vlastni) {
 }
 
 void frmVypisTipu::Vypis_Tipu_Do_Listu() {
-    auto* seznamy = static_cast<QStackedLayout*>(List1->parentWidget()->layout()->itemAt(0)->layout());
     Vypis_Tipu vypis;
     {
-        seznamy->setCurrentWidget(lstFIX);
+        Seznamy->setCurrentWidget(lstFIX);
         const Prace prace(Sezeni.Sluzby);
         vypis = ::Vypis_Tipu_Do_Listu(Sezeni.Tipy.Soubor_Tipu, Sezeni.Tipy.Pocet_Tipu_Aktivni, prace.Prubeh_Prace());
     }
     const QSignalBlocker blokace(List1);
     List1->clear();
     List1->addItems(vypis.Radky);
-    seznamy->setCurrentWidget(List1);
+    Seznamy->setCurrentWidget(List1);
     Sezeni.Tipy.Soubor_Tipu.Pocet_Tipu = int16_t(vypis.Pocet_Tipu_Celkem);
     Sezeni.Sluzby->Nastav_Soubor_Tipu(QString::number(vypis.Pocet_Tipu_Celkem));
     if (!Jmeno_Upraveno || txtSoubor_Tipu->text().trimmed().isEmpty())

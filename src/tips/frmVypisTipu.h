@@ -14,6 +14,7 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
+class QStackedLayout;
 class frmMDITombi;
 class frmSloupec_Tiketu;
 struct Relace;
@@ -72,6 +73,7 @@ private:
     void Obarvi_Zapis(const QColor& barva, bool povolit);
     void Navrhni_Jmeno();
 
+    QStackedLayout* Seznamy; // List1, or lstFIX while the list is being built
     frmMDITombi& Ram;
     Relace& Sezeni;
     bool Vlastni_Tipy = false;
