@@ -1,31 +1,11 @@
 // A run of the generator at the size of the tip store: 9,500 tips with no filter, and with the
 // usual filters together with the walk over the whole Sunday archive.
+#include "Archiv_Nedele.h"
 #include "generator/Generator.h"
-#include "net/Import_Tahu.h"
 
-#include <QFile>
 #include <benchmark/benchmark.h>
-#include <cstdlib>
 
 namespace {
-
-const Archiv_Tahu& Nedele() {
-    static const Archiv_Tahu archiv = [] {
-        QFile f(QStringLiteral(TOMBI_HISTORIE));
-        if (!f.open(QIODevice::ReadOnly))
-            std::abort();
-        Archiv_Tahu a;
-        Nastav_Den_Archivu(a, Den::Nedele);
-        const Import_Vysledek v = Importuj_Csv(f.readAll(), Den::Nedele);
-        if (!v.Stav.Ok())
-            std::abort();
-        a.Pole_Tahu = v.Roky;
-        a.Pocet_Let = v.Pocet_Let();
-        Priprav_Seznamy_Tahu(a);
-        return a;
-    }();
-    return archiv;
-}
 
 Zadani_Generatoru Zadani(bool filtry) {
     Zadani_Generatoru z;
@@ -37,7 +17,7 @@ Zadani_Generatoru Zadani(bool filtry) {
             z.Check1[std::size_t(i)] = true;
         // Text4 as the window starts it for the number of tips without the automatic correction.
         z.Max_Tretich_Cen = int(9500 / 49.0 + 0.5);
-        const Archiv_Tahu& a = Nedele();
+        const Archiv_Tahu& a = Archiv_Nedele();
         z.Tahy_1 = &a.Tahy_1;
         z.Tahy_2 = &a.Tahy_2;
         z.Vynech_Tahy_1_Od = a.Pocet_Tahy_1;
@@ -55,7 +35,7 @@ void Beh(benchmark::State& stav, bool filtry) {
         benchmark::DoNotOptimize(soubor.Tikety[1].Cisla[1][1]);
     }
     stav.counters["hotovo"] = v.Pocet_Tipu_Hotovo;
-    stav.counters["tahu"] = filtry ? Nedele().Pocet_Tahy_1 + Nedele().Pocet_Tahy_2 : 0;
+    stav.counters["tahu"] = filtry ? Archiv_Nedele().Pocet_Tahy_1 + Archiv_Nedele().Pocet_Tahy_2 : 0;
 }
 
 void Bez_Filtru(benchmark::State& stav) {

@@ -1,0 +1,170 @@
+// Evaluation of wins: tiers, the boxes against the tips with their colours, the boxes against the
+// archive, the file against the archive (fast and straightforward alike), the record limit.
+#include "Bajty.h"
+#include "tips/Vyhodnoceni.h"
+#include "tips/Vypis_Tipu.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <memory>
+#include <random>
+
+namespace {
+
+std::unique_ptr<Zaznam_Tipu> Store(std::initializer_list<std::initializer_list<int>> tipy) {
+    auto z = std::make_unique<Zaznam_Tipu>();
+    int16_t aktivni = 0;
+    for (const auto& t : tipy)
+        Pridej_Tip(*z, aktivni, Cisla<Tip>(t));
+    return z;
+}
+
+Vyhry Jen(int poradi, uint64_t pocet = 1) {
+    Vyhry v{};
+    v[std::size_t(poradi)] = pocet;
+    return v;
+}
+
+} // namespace
+
+class Test_Vyhodnoceni final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void Poradi() {
+        Vyhry v{};
+        int poradi = 9;
+        QVERIFY(!Zarad_Vyhru(v, 7, 0, poradi)); // a tip holding a number twice
+        QVERIFY(!Zarad_Vyhru(v, 2, 1, poradi));
+        QCOMPARE(poradi, 9);
+        QVERIFY(Zarad_Vyhru(v, 6, 1, poradi));
+        QCOMPARE(poradi, 1);
+        QVERIFY(Zarad_Vyhru(v, 5, 1, poradi));
+        QCOMPARE(poradi, 2);
+        QVERIFY(Zarad_Vyhru(v, 5, 0, poradi));
+        QCOMPARE(poradi, 3);
+        QCOMPARE(v, (Vyhry{0, 1, 1, 1, 0, 0}));
+    }
+
+    void Boxy_V_Tipech() {
+        // Tip 1: five hits and box 6 holds its sixth number: tier 2. Tip 2: 5 and 20 against the
+        // boxes 5, 5, 20 of the second row: three hits.
+        const auto z = Store({{1, 2, 3, 4, 5, 6}, {5, 20, 30, 40, 41, 48}});
+        Vysledek_Vyhodnoceni v;
+        Barvy_Radku b1{}, b2{};
+        Vyh_Tah_V_Tipech(*z, {1, 2, 3, 4, 5, 10, 6}, {5, 5, 20, 0, 0, 0, 0}, v, b1, b2);
+        QCOMPARE(v.Vyhry_1Tah, Jen(2));
+        QCOMPARE(v.Vyhry_2Tah, Jen(5));
+        QCOMPARE(v.Pocet_Vyhernich_Zaznamu(), 2);
+        QCOMPARE(v.Vyherni_Zaznamy[0].Sloupce[1], (Vyhra_Sloupce{2, 1}));
+        QCOMPARE(v.Vyherni_Zaznamy[1].Sloupce[2], (Vyhra_Sloupce{5, 2}));
+        // Box 10 is missed by one (tip 1 has no 9 or 11, tip 2 none either): white. 5 was a near
+        // miss of 4 and 6 first, then a hit.
+        QCOMPARE(b1[5], Barva_Boxu::Bila);
+        QCOMPARE(b1[4], Barva_Boxu::Zasah);
+        QCOMPARE(b1[6], Barva_Boxu::Zasah);
+        QCOMPARE(b2[3], Barva_Boxu::Bila);
+
+        // A near miss stays one when no tip hits; two numbers in the first row leave it out.
+        const auto jeden = Store({{7, 12, 30, 31, 32, 33}});
+        Vysledek_Vyhodnoceni w;
+        Barvy_Radku c1{}, c2{};
+        Vyh_Tah_V_Tipech(*jeden, {8, 12, 0, 0, 0, 0, 0}, {30, 31, 32, 0, 0, 0, 0}, w, c1, c2);
+        QCOMPARE(c1[0], Barva_Boxu::Bila); // the first row did not run at all
+        QCOMPARE(w.Vyhry_1Tah, Vyhry{});
+        QCOMPARE(w.Vyhry_2Tah, Jen(5));
+        Vyh_Tah_V_Tipech(*jeden, {8, 12, 50, 0, 0, 0, 0}, {}, w, c1, c2);
+        QCOMPARE(c1[0], Barva_Boxu::Vedle);
+        QCOMPARE(c1[1], Barva_Boxu::Zasah);
+    }
+
+    void Boxy_V_Tazich() {
+        Archiv_Tahu a;
+        a.Tahy_1.push_back(Cisla<Tah>({1, 2, 3, 4, 5, 6, 7}));
+        a.Tahy_1.push_back(Cisla<Tah>({1, 2, 3, 4, 5, 9, 6}));
+        a.Tahy_2.push_back(Cisla<Tah>({1, 2, 3, 40, 41, 42, 43}));
+        a.Pocet_Tahy_1 = 2;
+        a.Pocet_Tahy_2 = 1;
+        const Rozsah_Tahu r = Rozsah_Archivu(a, 5, 5);
+        QCOMPARE(r.N1, 2);
+        Vysledek_Vyhodnoceni v;
+        // Box 6 empty: no supplementary hit ever. Draw 1: 5 hits (6 missed) → tier 3; draw 2 the
+        // same; second draw 3 hits.
+        Vyh_Cisla_V_Tazich({1, 2, 3, 4, 5, 10, 0}, {}, true, true, r, v);
+        QCOMPARE(v.Vyhry_1Tah, Jen(3, 2));
+        QCOMPARE(v.Vyhry_2Tah, Jen(5));
+        QVERIFY(v.Vyherni_Zaznamy.empty());
+        // Box 6 = 7: draw 1's supplementary matches only because its sixth number was missed;
+        // draw 2's sixth number 9 is missed but its supplementary 6 is not in box 6.
+        v.Vycisti();
+        Vyh_Cisla_V_Tazich({1, 2, 3, 4, 5, 10, 7}, {}, true, false, r, v);
+        QCOMPARE(v.Vyhry_1Tah, (Vyhry{0, 0, 1, 1, 0, 0}));
+        // A row unticked or of two numbers counts nothing; the other row still does.
+        v.Vycisti();
+        Vyh_Cisla_V_Tazich({1, 2, 0, 0, 0, 0, 0}, {40, 41, 42, 0, 0, 0, 0}, true, true, r, v);
+        QCOMPARE(v.Vyhry_1Tah, Vyhry{});
+        QCOMPARE(v.Vyhry_2Tah, Jen(5));
+    }
+
+    void Soubor_V_Tazich() {
+        // A last ticket of 4 columns, and tips no clean mask fits: a number twice, a 0, a 55.
+        std::mt19937 nahoda(7);
+        auto z = std::make_unique<Zaznam_Tipu>();
+        int16_t aktivni = 0;
+        std::array<uint8_t, 14> cisla{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14};
+        for (int i = 0; i < 234; ++i) {
+            std::shuffle(cisla.begin(), cisla.end(), nahoda);
+            Tip t;
+            std::copy_n(cisla.begin(), 6, &t[1]);
+            Pridej_Tip(*z, aktivni, t);
+        }
+        z->Tikety[3].Cisla[4] = Cisla<Tip>({5, 5, 6, 7, 8, 9});
+        z->Tikety[4].Cisla[2] = Cisla<Tip>({5, 0, 6, 7, 8, 55});
+        z->Tikety[24].Cisla[6] = Cisla<Tip>({1, 2, 3, 4, 5, 6}); // behind the end: never counted
+        Archiv_Tahu a;
+        for (int d = 0; d < 300; ++d) {
+            std::shuffle(cisla.begin(), cisla.end(), nahoda);
+            Tah tah;
+            std::copy_n(cisla.begin(), 7, &tah[1]);
+            if (d % 50 == 0)
+                tah[7] = tah[2]; // a supplementary number that is also drawn
+            a.Tahy_1.push_back(tah);
+            a.Tahy_2.push_back(tah);
+        }
+        a.Pocet_Tahy_1 = a.Pocet_Tahy_2 = 300;
+        const Rozsah_Tahu r = Rozsah_Archivu(a, 300, 120);
+        Vysledek_Vyhodnoceni rychly, prosty;
+        Vyh_Soubor_V_Tazich(*z, r, rychly);
+        Vyh_Soubor_V_Tazich_Prosty(*z, r, prosty);
+        QVERIFY(rychly.Vyhry_1Tah[5] > 100 && rychly.Vyhry_1Tah[1] > 0);
+        QCOMPARE(rychly.Vyhry_1Tah, prosty.Vyhry_1Tah);
+        QCOMPARE(rychly.Vyhry_2Tah, prosty.Vyhry_2Tah);
+        QVERIFY(rychly.Vyherni_Zaznamy == prosty.Vyherni_Zaznamy);
+        for (const Vyherni_Zaznam& zaznam : rychly.Vyherni_Zaznamy)
+            QVERIFY(zaznam.Sloupce[6].Poradi == 0 || zaznam.Cislo_Tiketu != z->Tikety[24].Cislo_Tiketu);
+
+        // The record limit ends the run with what was counted; a stop ends it too.
+        Vysledek_Vyhodnoceni plny;
+        Vyh_Soubor_V_Tazich(*z, r, plny, {}, 10);
+        QVERIFY(plny.Preteceni);
+        QCOMPARE(plny.Pocet_Vyhernich_Zaznamu(), 10);
+        QCOMPARE(plny.Vyhry_1Tah[1] + plny.Vyhry_1Tah[2] + plny.Vyhry_1Tah[3] + plny.Vyhry_1Tah[4] +
+                     plny.Vyhry_1Tah[5],
+                 uint64_t(11));
+        Vysledek_Vyhodnoceni stop;
+        Vyh_Soubor_V_Tazich(*z, r, stop, [](int procenta) { return procenta < 50; });
+        QVERIFY(stop.Zastaveno);
+        QVERIFY(stop.Vyhry_2Tah == Vyhry{});
+    }
+
+    void Nahodny_Los() {
+        int i = 0;
+        const int rada[] = {3, 3, 9, 3, 49, 1, 9, 2, 7, 11};
+        const Radek_Tahu los = ::Nahodny_Los([&] { return rada[i++]; });
+        QCOMPARE(los, (Radek_Tahu{3, 9, 49, 1, 2, 7, 11}));
+    }
+};
+
+QTEST_GUILESS_MAIN(Test_Vyhodnoceni)
+#include "Test_Vyhodnoceni.moc"
