@@ -270,7 +270,7 @@ void Vyh_Soubor_V_Tazich(const Zaznam_Tipu& tipy, const Rozsah_Tahu& rozsah, Vys
                 } else {
                     Tip_Proti_Tahu(*seznam.Cisla[j], tah_d, h, s);
                 }
-                if (h < 3 || !Zarad_Vyhru(vyhry, h, s, poradi))
+                if (h < 3 || !Zarad_Vyhru(vyhry, h, s, poradi) || max_zaznamu == Bez_Zaznamu)
                     continue;
                 if (vysledek.Vyherni_Zaznamy.size() >= max_zaznamu) {
                     // The win counted; its record has no room, so the run ends here.

@@ -34,6 +34,7 @@ struct Vyherni_Zaznam {
 // The win records are held in memory; beyond this many the file-against-archive run ends with its
 // message (the whole Sunday archive against 9,500 tips gives about 600,000).
 inline constexpr std::size_t Max_Vyhernich_Zaznamu = 4'000'000;
+inline constexpr std::size_t Bez_Zaznamu = 0;
 inline const QString Text_Preteceni_Vyher =
     QStringLiteral("Překročena mezní hodnota počtu výher !!! Počet výher není správný.");
 inline const QString Text_Malo_Cisel = QStringLiteral("Pro vyhodnocení je třeba alespoň 3 čísel v tahu !");
@@ -96,7 +97,8 @@ void Vyh_Cisla_V_Tazich(const Radek_Tahu& tah1, const Radek_Tahu& tah2, bool rad
 
 // Every tip of the store against every draw of the range, first draws then second draws, oldest
 // first; a column whose first number is 0 ends the draw. Records are written; beyond
-// `max_zaznamu` records the run ends with Preteceni and what was counted stands.
+// `max_zaznamu` records the run ends with Preteceni and what was counted stands. Bez_Zaznamu
+// counts the wins only.
 void Vyh_Soubor_V_Tazich(const Zaznam_Tipu& tipy, const Rozsah_Tahu& rozsah, Vysledek_Vyhodnoceni& vysledek,
                          const Prubeh& prubeh = {}, std::size_t max_zaznamu = Max_Vyhernich_Zaznamu);
 

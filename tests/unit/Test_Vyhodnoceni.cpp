@@ -1,6 +1,7 @@
 // Evaluation of wins: tiers, the boxes against the tips with their colours, the boxes against the
 // archive, the file against the archive (fast and straightforward alike), the record limit.
 #include "Bajty.h"
+#include "tips/Srovnani.h"
 #include "tips/Vyhodnoceni.h"
 #include "tips/Vypis_Tipu.h"
 
@@ -156,6 +157,48 @@ private slots:
         Vyh_Soubor_V_Tazich(*z, r, stop, [](int procenta) { return procenta < 50; });
         QVERIFY(stop.Zastaveno);
         QVERIFY(stop.Vyhry_2Tah == Vyhry{});
+    }
+
+    void Radky_A_Penize() {
+        Vysledek_Vyhodnoceni v;
+        Vyherni_Zaznam z;
+        z.Cislo_Tiketu = 1;
+        z.Sloupce[3] = {5, 2};
+        v.Vyherni_Zaznamy = {z, z};
+        const std::vector<Misto_Vyhry> mista = Mista_Vyher(v);
+        QCOMPARE(mista.size(), std::size_t(2));
+        QCOMPARE(Radek_Vyhry(mista[0]), u" 000 001     03        2 / 5"_qs);
+        QCOMPARE(Radek_Vyhry({123456, 10, 1, 1}), u" 123 456     10        1 / 1"_qs);
+
+        const Ceny_Tahu ceny{20'000'000, 500'000, 20'000, 500, 100};
+        QCOMPARE(Soucet_Tahu(Vyhry{0, 0, 0, 1, 2, 3}, ceny), 21'300.0);
+        QCOMPARE(Soucet_Tahu_32(Vyhry{0, 0, 0, 1, 2, 3}, ceny), std::optional<int32_t>(21'300));
+        QCOMPARE(Soucet_Tahu_32(Vyhry{0, 108, 0, 0, 0, 0}, ceny), std::nullopt); // 2.16e9 > 2^31
+        QCOMPARE(Zisk_Procent(150, 100), std::optional<double>(50));
+        QCOMPARE(Zisk_Procent(150, 0), std::nullopt);
+        QCOMPARE(Odhad_Casu(100, 100, 9500), u"209 s"_qs);
+        QCOMPARE(Odhad_Casu(30000, 30000, 1), u"-1 s"_qs); // the two counts added in 16 bits
+    }
+
+    void Srovnani_S_Nahodou() {
+        // The file holds the draw itself: it beats every random file, and a seed repeats the figures.
+        Archiv_Tahu a;
+        for (int d = 0; d < 20; ++d)
+            a.Tahy_1.push_back(Cisla<Tah>({1, 2, 3, 4, 5, 6, 7}));
+        a.Pocet_Tahy_1 = 20;
+        const auto z = Store({{1, 2, 3, 4, 5, 6}, {10, 11, 12, 13, 14, 15}});
+        const Rozsah_Tahu r = Rozsah_Archivu(a, 20, 0);
+        const std::array<Ceny_Tahu, 2> ceny{Ceny_Tahu{1000, 100, 50, 10, 5}, Ceny_Tahu{}};
+        const Vysledek_Srovnani s = Srovnej_S_Nahodou(*z, 2, r, ceny, 40, 99);
+        QCOMPARE(s.Pocet_Souboru, 40);
+        QCOMPARE(s.Vyhry_Souboru[1], uint64_t(20));
+        QCOMPARE(s.Penize_Souboru, 20'000.0);
+        QVERIFY(s.Penize_Nahody.Devadesat < 1000);
+        QVERIFY(s.Penize_Nahody.Pet <= s.Penize_Nahody.Prumer && s.Penize_Nahody.Prumer <= s.Penize_Nahody.Devadesat);
+        QVERIFY(s.Veta.contains(u"pomohly"_qs));
+        const Vysledek_Srovnani znovu = Srovnej_S_Nahodou(*z, 2, r, ceny, 40, 99);
+        QCOMPARE(znovu.Penize_Nahody.Prumer, s.Penize_Nahody.Prumer);
+        QCOMPARE(znovu.Vyhry_Nahody[5].Devadesat, s.Vyhry_Nahody[5].Devadesat);
     }
 
     void Nahodny_Los() {
