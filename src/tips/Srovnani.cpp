@@ -75,6 +75,21 @@ Vysledek_Srovnani Srovnej_S_Nahodou(const Zaznam_Tipu& tipy, int pocet_tipu, con
     for (std::size_t t = 1; t < 6; ++t)
         s.Vyhry_Nahody[t] = Rozloz(vyhry[t]);
     s.Penize_Nahody = Rozloz(penize);
-    s.Veta = s.Pocet_Souboru > 0 ? Veta(s.Penize_Souboru, s.Penize_Nahody) : QString();
+    // With no prizes set the verdict weighs the number of wins instead of the money.
+    const bool podle_penez = std::any_of(ceny.begin(), ceny.end(), [](const Ceny_Tahu& c) {
+        return std::any_of(c.begin(), c.end(), [](double cena) { return cena != 0; });
+    });
+    if (podle_penez) {
+        s.Veta = Veta(s.Penize_Souboru, s.Penize_Nahody);
+    } else {
+        std::vector<double> pocty(std::size_t(s.Pocet_Souboru), 0.0);
+        for (std::size_t t = 1; t < 6; ++t)
+            for (std::size_t i = 0; i < pocty.size(); ++i)
+                pocty[i] += vyhry[t][i];
+        const double soubor = double(std::accumulate(s.Vyhry_Souboru.begin(), s.Vyhry_Souboru.end(), uint64_t(0)));
+        s.Veta = Veta(soubor, Rozloz(pocty));
+    }
+    if (s.Pocet_Souboru == 0)
+        s.Veta.clear();
     return s;
 }

@@ -52,6 +52,9 @@ private slots:
         QTest::newRow("generate pouzit i vynechat")
             << QStringList{u"generate"_qs, u"--tipy"_qs, u"5"_qs, u"--pouzit"_qs, u"1,2"_qs, u"--vynechat"_qs, u"3"_qs,
                            u"--out"_qs, u"a.tip"_qs};
+        QTest::newRow("evaluate radek ze tri") << QStringList{u"evaluate"_qs, u"--tipech"_qs, u"a.tip"_qs, u"1 2 3"_qs};
+        QTest::newRow("evaluate dva druhy")
+            << QStringList{u"evaluate"_qs, u"--tipech"_qs, u"--nahodne"_qs, u"a.tip"_qs, u"1 2 3 4 5 6 7"_qs};
     }
     void Spatne_Pouziti_Vraci_2() {
         QFETCH(QStringList, argumenty);
@@ -96,6 +99,45 @@ private slots:
         const Beh prunik = generuj(u"d.tip"_qs, {u"--tipy"_qs, u"30"_qs, u"--prunik"_qs, u"2"_qs});
         QCOMPARE(std::pair(prunik.Kod, prunik.Chyby), std::pair(1, u"Upravte omezeni, nemožno zpracovat ...\n"_qs));
         QVERIFY(prunik.Radky.value(0).startsWith(u"tikety 3 tipy 30 hotovo 10 "_qs));
+    }
+
+    void Vyhodnoceni() {
+        QTemporaryDir dir;
+        const QString sez = dir.filePath(u"SpS_tahy.sez"_qs);
+        QCOMPARE(Spust({u"import"_qs, u"--csv"_qs, QStringLiteral(TOMBI_HISTORIE), u"--den"_qs, u"streda"_qs,
+                        u"--out"_qs, sez})
+                     .Kod,
+                 0);
+        // The newest first draw is 10 14 31 33 45 47, supplementary 40: tier 1 and tier 2.
+        const auto z = std::make_unique<Zaznam_Tipu>();
+        z->Tikety[1].Cisla[1] = Tip{{10, 14, 31, 33, 45, 47}};
+        z->Tikety[1].Cisla[2] = Tip{{10, 14, 31, 33, 40, 45}};
+        z->Tikety[1].Cislo_Tiketu = 1;
+        z->Pocet_Tiketu = 1;
+        z->Pocet_Tipu = 2;
+        const QString tip = dir.filePath(u"a.tip"_qs);
+        QVERIFY(Uloz_Soubor(tip, Zapis_Zaznam_Tipu(*z)).Ok());
+        const QStringList vyhry{u" 000 001     01        1 / 1"_qs, u" 000 001     02        1 / 2"_qs};
+
+        const Beh soubor = Spust({u"evaluate"_qs, tip, sez, u"1"_qs, u"0"_qs, u"--ceny"_qs, u"1000,100,0,0,0"_qs});
+        QCOMPARE(soubor.Radky, (QStringList{u"tah1 1 1 0 0 0"_qs, u"tah2 0 0 0 0 0"_qs} + vyhry +
+                                QStringList{u"vyhra 1100 vklad 24 zisk 4483"_qs}));
+        const Beh tipech = Spust({u"evaluate"_qs, u"--tipech"_qs, tip, u"47 10 14 45 31 33 40"_qs});
+        QCOMPARE(tipech.Radky, (QStringList{u"tah1 1 1 0 0 0"_qs, u"tah2 0 0 0 0 0"_qs} + vyhry));
+        const Beh malo = Spust({u"evaluate"_qs, u"--tipech"_qs, tip, u"1 2 - - - - -"_qs, u"3 4 0 0 0 0 0"_qs});
+        QCOMPARE(std::pair(malo.Kod, malo.Chyby), std::pair(1, u"Pro vyhodnocení je třeba alespoň 3 čísel v tahu !\n"_qs));
+        const Beh tazich = Spust({u"evaluate"_qs, u"--tazich"_qs, sez, u"1"_qs, u"0"_qs, u"10 14 31 33 45 47 -"_qs});
+        QCOMPARE(tazich.Radky, (QStringList{u"tah1 1 0 0 0 0"_qs, u"tah2 0 0 0 0 0"_qs}));
+
+        const QStringList los{u"evaluate"_qs, u"--nahodne"_qs, tip, u"--seminko"_qs, u"8"_qs};
+        const Beh prvni = Spust(los);
+        QVERIFY(prvni.Radky.value(0).startsWith(u"los1 "_qs) && prvni.Radky.value(1).startsWith(u"los2 "_qs));
+        QCOMPARE(Spust(los).Radky, prvni.Radky);
+        const Beh srovnani = Spust({u"evaluate"_qs, u"--srovnani"_qs, u"5"_qs, tip, sez, u"50"_qs, u"50"_qs,
+                                    u"--seminko"_qs, u"3"_qs});
+        QCOMPARE(srovnani.Radky.size(), 6);
+        QVERIFY(srovnani.Radky[0].startsWith(u"soubor 1 1 "_qs));
+        QCOMPARE(srovnani.Radky[4], u"seminko 3"_qs);
     }
 
     void Archiv_A_Tipy() {
