@@ -7,6 +7,8 @@
 
 #include <optional>
 
+class QPrinter;
+
 class Dialogy {
 public:
     enum class Ikona { Informace, Otaznik, Vykricnik, Stop };
@@ -37,4 +39,6 @@ public:
     virtual bool Vybrat_Pismo(Pismo& pismo) = 0;
     // The printer dialog; false on cancel.
     virtual bool Vybrat_Tiskarnu() = 0;
+    // The printer the dialog chose last; printouts go to it.
+    virtual QPrinter& Tiskarna() = 0;
 };

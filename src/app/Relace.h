@@ -9,6 +9,8 @@
 #include "data/Archiv_Tahu.h"
 #include "data/Nastaveni.h"
 #include "data/Soubor_Tipu.h"
+#include "generator/Stav_Generatoru.h"
+#include "tips/Vyhodnoceni.h"
 
 #include <QString>
 
@@ -38,6 +40,7 @@ struct Relace {
     bool Formular_Otevren_Analyza = false;
     bool Formular_Otevren_Tipy = false;
     bool Formular_Otevren_Tahy = false;
+    bool Vypis_Tipu_Vsech_Otevren = false;
 
     // Even and odd numbers of the picked list (Spocitej_Suda_Licha).
     int Pocet_Sudych = 0;
@@ -45,6 +48,10 @@ struct Relace {
 
     Archiv_Tahu Archiv;
     Stav_Tipu Tipy;
+    Stav_Generatoru Generator;
+    Ulozena_Cisla_Tahu Vyhodnoceni; // the draw boxes of the tip list, kept between openings
+    // Bettors of the loaded list; above 0 the list sets the count of tips of the generator.
+    int Pocet_Sazejicich = 0;
     Nastaveni_Zaznam Nastaveni;
     pTikety Tikety;
     ::Random Random;

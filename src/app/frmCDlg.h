@@ -21,8 +21,7 @@ public:
     bool Vybrat_Pismo(Pismo& pismo) override;
     bool Vybrat_Tiskarnu() override;
 
-    // The printer chosen last; printing goes to it.
-    QPrinter& Tiskarna() { return Vybrana_Tiskarna; }
+    QPrinter& Tiskarna() override { return Vybrana_Tiskarna; }
 
     // "Soubor tipů (*.tip)|*.tip|Vše (*.*)|*.*" becomes "Soubor tipů (*.tip);;Vše (*.*)".
     static QString Qt_Filtr(const QString& filtr);

@@ -19,6 +19,7 @@
 #include "data/Nastaveni.h"
 #include "data/Nedavne_Soubory.h"
 #include "data/Soubory.h"
+#include "generator/frmGeneruj.h"
 #include "tips/frmVypisTipu.h"
 
 #include <QActionGroup>
@@ -96,6 +97,7 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
     frmOProgramu::Pripoj_Prikazy(*this);
     frmPrehled::Pripoj_Prikazy(*this);
     frmVypisTipu::Pripoj_Prikazy(*this);
+    frmGeneruj::Pripoj_Prikazy(*this);
     Obnov_Povoleni();
 
     // A click anywhere on the main window sends the splash and the notice away; the click may
@@ -211,7 +213,7 @@ bool frmMDITombi::Je_Nehotovy(const QAction* prikaz) const {
     // Commands whose windows are still to come stay off; a command is switched on by taking it
     // out of this list once its window connects it.
     const QAction* const nehotove[] = {
-        mnuPripojSouborTipu, mnuSetriditSouborTipu, mnuGenerujTipy,
+        mnuPripojSouborTipu, mnuSetriditSouborTipu,
         mnuExportTipu,       mnuImportTipu,         mnuTiskTiketu,  mnuVypisTahu,       mnuRozsirSouborTahy,
         mnuAnalyza,          mnuAnalyzaAutomat,     mnuVypisAnalyz, mnuDownload,        mnuOtevriSeznam,
         mnuNovySeznam,       mnuVypisSeznamu,       mnuUvolnit,     mnuKonfigurace,     mnuWebTombiNovaVer,

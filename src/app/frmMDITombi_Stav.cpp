@@ -91,7 +91,9 @@ void frmMDITombi_Stav::Nastav_Texty(const Tabulka_Textu& texty) {
 void frmMDITombi_Stav::Nastav_Soubor_Tipu(const QString& text) {
     const QString popis = text.contains(u"tip"_qs) ? text : modTombi::Text_Poctu_Tipu(int(Vb::Val(text)));
     lblSoubor_Tipu->setText(popis);
+    // A tip file holds no Šance; the generator adds its part after handing the tips over.
     Sezeni.Tikety.Vklad = Vb::Mena::Z_Korun(Vb::Val(popis) * Sezeni.Nastaveni.Cena_Jednoho_Tipu);
+    Sezeni.Tikety.Vklad_Sance = {};
 }
 
 void frmMDITombi_Stav::Nastav_Vzhled_Prubehu() {

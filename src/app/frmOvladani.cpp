@@ -1,11 +1,15 @@
 #include "app/frmOvladani.h"
 
+#include "app/Vb.h"
 #include "app/modTombi.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace modNastaveni_Ovladani {
 
@@ -26,7 +30,33 @@ protected:
     }
 };
 
+// Swallows every key that Filtr_Klavesy refuses for the digits; keys without a character (arrows,
+// deletion, shortcuts) pass.
+class Filtr_Cislic final : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject*, QEvent* udalost) override {
+        if (udalost->type() != QEvent::KeyPress)
+            return false;
+        const QString text = static_cast<QKeyEvent*>(udalost)->text();
+        if (text.isEmpty() || !text.at(0).isPrint())
+            return false;
+        return modTombi::Filtr_Klavesy(text.at(0).unicode(), u'0', u'9') == 0;
+    }
+};
+
 } // namespace
+
+int Cele_Cislo(const QLineEdit* pole) {
+    return int(std::clamp(Vb::Val(pole->text()), -1e9, 1e9));
+}
+
+void Jen_Cislice(QLineEdit* pole) {
+    if (pole != nullptr)
+        pole->installEventFilter(new Filtr_Cislic(pole));
+}
 
 void Vyber_Text(QLineEdit* pole) {
     if (pole != nullptr)

@@ -3,11 +3,43 @@
 // entry, the even/odd labels, the help context. The key filter Filtr_Klavesy and the table of help
 // keys need no window and live in modTombi.
 
-class QLineEdit;
-class QString;
-class QWidget;
+#include "app/Tabulka_Textu.h"
+
+#include <QLineEdit>
+#include <QString>
+#include <QWidget>
 
 namespace modNastaveni_Ovladani {
+
+// Names a control of window `okno` and gives it its caption and tool tip from the string table
+// ("okno.jmeno", "okno.jmeno.ToolTipText"); a frame takes the caption as its title, a text box
+// keeps its text. Returns the control.
+template <class T> T* Prvek(T* prvek, const QString& okno, const QString& jmeno) {
+    prvek->setObjectName(jmeno);
+    const Tabulka_Textu& texty = Tabulka_Textu::Programu();
+    const QString klic = okno + u'.' + jmeno;
+    if constexpr (requires { prvek->setText(QString()); }) {
+        if (!qobject_cast<QLineEdit*>(prvek))
+            if (const QString titulek = texty.Text(klic); !titulek.isEmpty())
+                prvek->setText(titulek);
+    } else if constexpr (requires { prvek->setTitle(QString()); }) {
+        if (const QString titulek = texty.Text(klic); !titulek.isEmpty())
+            prvek->setTitle(titulek);
+    }
+    prvek->setToolTip(texty.Text(klic + u".ToolTipText"_qs));
+    return prvek;
+}
+
+// "jmeno(i)": the name of element i of an array of controls.
+inline QString Indexem(const QString& jmeno, int i) {
+    return jmeno + u'(' + QString::number(i) + u')';
+}
+
+// Val of a box's text, held within what an int takes.
+int Cele_Cislo(const QLineEdit* pole);
+
+// Lets the box take only the digits 0..9 (and deletion), as Filtr_Klavesy does for every key.
+void Jen_Cislice(QLineEdit* pole);
 
 // Selects the whole text of the box.
 void Vyber_Text(QLineEdit* pole);

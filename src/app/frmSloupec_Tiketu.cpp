@@ -35,6 +35,11 @@ void frmSloupec_Tiketu::Pridej_Ramecek(double x, double y, const QColor& barva, 
     update();
 }
 
+void frmSloupec_Tiketu::Pridej_Kruh(int cislo) {
+    Znacky.push_back({cislo, 0, 0, 0, {}, 0, true});
+    update();
+}
+
 void frmSloupec_Tiketu::Vycisti() {
     Znacky.clear();
     update();
@@ -66,7 +71,17 @@ void frmSloupec_Tiketu::paintEvent(QPaintEvent*) {
             kreslic.drawText(bunka, Qt::AlignCenter, QString::number(cislo));
     }
     for (const Znacka& znacka : Znacky) {
-        if (znacka.Cislo > 0)
+        if (znacka.Kruh) {
+            int rad = 0, sloup = 0;
+            pTikety::Dej_Rad_Sloup(znacka.Cislo, rad, sloup);
+            QColor barva = frmKresleni::Barva_Z_Vb(Nastaveni.Barva_Krizku_2);
+            kreslic.setPen(QPen(barva, 1));
+            barva.setAlpha(60);
+            kreslic.setBrush(barva);
+            const QPointF stred(px(Bunka * sloup + 200 - 5), py(Bunka * rad + 210 - 15));
+            kreslic.drawEllipse(stred, px(130), py(130));
+            kreslic.setBrush(Qt::NoBrush);
+        } else if (znacka.Cislo > 0)
             modTombi::Nakresli_Krizek(kreslic, znacka.Cislo, znacka.Barva, Nastaveni.Tloustka_Cary_1);
         else
             modTombi::Nakresli_Ramecek(kreslic, znacka.X, znacka.Y, znacka.Barva_Ramecku, znacka.Druh,

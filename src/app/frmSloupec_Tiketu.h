@@ -20,6 +20,8 @@ public:
     void Pridej_Krizek(int cislo, int barva = 0);
     // A mark of a drawn number with its top left at x, y twips: druh 1 a cross, 2 a frame.
     void Pridej_Ramecek(double x, double y, const QColor& barva, int druh);
+    // A circle round the number's cell (a number no tip holds yet).
+    void Pridej_Kruh(int cislo);
     void Vycisti();
     bool Je_Prazdny() const { return Znacky.empty(); }
 
@@ -41,6 +43,7 @@ private:
         double X = 0, Y = 0;
         QColor Barva_Ramecku;
         int Druh = 0;
+        bool Kruh = false;
     };
     const Nastaveni_Zaznam& Nastaveni;
     std::vector<Znacka> Znacky;

@@ -171,3 +171,15 @@ std::pair<int, int> Spocitej_Tahy(const Archiv_Tahu& archiv) {
         }
     return {prvni, druhe};
 }
+
+std::pair<int, int> Rok_A_Tyden(const Archiv_Tahu& archiv, int tah, int index) {
+    const int pocet_let = Platny_Pocet_Let(archiv);
+    int poradi = 0;
+    for (int r = 1; r <= pocet_let; ++r) {
+        const Rok_Zaznam& rok = archiv.Pole_Tahu[std::size_t(r)];
+        for (int t = 1; t <= 53; ++t)
+            if (Vb::Je_Pravda(tah == 1 ? rok.Tyden[t].Je_Tah1 : rok.Tyden[t].Je_Tah2) && ++poradi == index)
+                return {rok.Rok, t};
+    }
+    return {0, 0};
+}

@@ -86,5 +86,8 @@ Vysledek Zaloha_Souboru(int druh, const Archiv_Tahu& archiv, const QString& adre
 Vysledek Obnov_Zalohu(const Archiv_Tahu& archiv, const QString& adresar);
 // Rebuilds Tahy_1 and Tahy_2 from the flagged weeks, in file order.
 void Priprav_Seznamy_Tahu(Archiv_Tahu& archiv);
+// Year and week of draw `index` (1-based, file order) of the first (tah 1) or second list; {0, 0}
+// when there is no such draw.
+std::pair<int, int> Rok_A_Tyden(const Archiv_Tahu& archiv, int tah, int index);
 // Counts of flagged first and of flagged second draws (Pocet_Tahu_1 and Pocet_Tahu_2 of pTikety).
 std::pair<int, int> Spocitej_Tahy(const Archiv_Tahu& archiv);

@@ -83,6 +83,7 @@ struct Stav_Tipu {
     QString Jmeno_Souboru_Tipu; // name of the open file without directory and extension
     bool Je_Soubor_Tipu = false;
     int16_t Pocet_Tipu_Aktivni = 0;
+    int Pocet_Tipu_Celkem = 0;  // tips the last listing or run counted
     QString Seznam_Navazany; // copy of Seznam_Soubor for the list window
 };
 

@@ -57,8 +57,8 @@ QByteArray Zapis_Zaznam_Vyb(const Zaznam_Vyb& z) {
 }
 
 QString Chyba_Zaznamu_Vyb(const Zaznam_Vyb& z) {
-    if (z.Rozpis > Posledni_Rozpis)
-        return Mimo_Rozsah(u"typ rozpisu"_qs, z.Rozpis, Posledni_Rozpis);
+    if (z.Rozpis > modRozpisy::Posledni_Rozpis)
+        return Mimo_Rozsah(u"typ rozpisu"_qs, z.Rozpis, modRozpisy::Posledni_Rozpis);
     if (z.Pocet_Tutovek > 3)
         return Mimo_Rozsah(u"počet tutovek"_qs, z.Pocet_Tutovek, 3);
     // The tutovky go behind the numbers in a list of 49.
@@ -76,7 +76,7 @@ QString Chyba_Zaznamu_Vyb(const Zaznam_Vyb& z) {
 
 Zaznam_Vyb Zaznam_Z_Vyberu(const Vyber_Cisel& v, int rozpis, const Boxy_Tutovek& boxy) {
     Zaznam_Vyb z;
-    z.Rozpis = uint8_t(std::clamp(rozpis, 0, Posledni_Rozpis));
+    z.Rozpis = uint8_t(std::clamp(rozpis, 0, modRozpisy::Posledni_Rozpis));
     for (const uint8_t b : boxy)
         if (b != 0)
             z.Tutovky[++z.Pocet_Tutovek] = b;

@@ -5,6 +5,7 @@
 #include "app/Pole_Od_1.h"
 #include "app/Vysledek.h"
 #include "generator/Vyber_Cisel.h"
+#include "generator/modRozpisy.h"
 
 #include <QByteArray>
 #include <QString>
@@ -24,7 +25,6 @@ struct Zaznam_Vyb {
 inline constexpr int Delka_Zaznamu_Vyb = 105;
 // Any file is read as far as the record goes; this keeps a huge file of another kind out.
 inline constexpr qint64 Nejvic_Souboru_Vyb = 64 * 1024;
-inline constexpr int Posledni_Rozpis = 24; // last index of lstSportka
 inline const QString Filtr_Souboru_Vyb = QStringLiteral("Soubor vybraných čísel (*.vyb)|*.vyb");
 
 // A short file leaves the rest of the record 0; bytes past it are ignored. Any bytes are accepted.

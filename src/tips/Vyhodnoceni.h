@@ -60,6 +60,13 @@ bool Zarad_Vyhru(Vyhry& vyhry, int h, int s, int& poradi);
 using Radek_Tahu = std::array<int, 7>;
 // Spocti_Cisla_Tahu for one row: the filled boxes of all seven.
 int Pocet_Cisel(const Radek_Tahu& radek);
+// Ulozena_Cisla_1Tah / _2Tah with Jsou_Cisla_1Tah / _2Tah: the boxes' numbers kept when an
+// evaluation starts, so that they return when the tip list opens again.
+struct Ulozena_Cisla_Tahu {
+    std::array<Radek_Tahu, 2> Cisla{};
+    std::array<bool, 2> Jsou{};
+};
+
 // Kontrola_Cisel_1Tah / _2Tah: more than two of the seven boxes are filled.
 inline bool Kontrola_Cisel(const Radek_Tahu& radek) {
     return Pocet_Cisel(radek) > 2;

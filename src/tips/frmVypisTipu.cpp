@@ -7,13 +7,22 @@
 #include "app/Tabulka_Textu.h"
 #include "app/Vb.h"
 #include "app/frmMDITombi.h"
+#include "app/frmKresleni.h"
 #include "app/frmMDITombi_Stav.h"
+#include "app/frmOvladani.h"
 #include "app/frmSloupec_Tiketu.h"
 #include "app/modTombi.h"
 #include "app/pTikety.h"
 #include "data/Nedavne_Soubory.h"
 #include "data/Soubory.h"
+#include "generator/frmGeneruj.h"
 #include "tips/Vypis_Tipu.h"
+#include "tips/Vypis_Vyher.h"
+#include "tips/Analyza_Tipu.h"
+#include "tips/frmVypisTipu_Analyza.h"
+#include "tips/frmVypisTipu_Vyber.h"
+#include "tips/frmVypisTipu_Vyhodnoceni.h"
+#include "tips/frmVypisTipu_Vyhry.h"
 
 #include <QCloseEvent>
 #include <QFileInfo>
@@ -22,15 +31,21 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMdiSubWindow>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QCoreApplication>
 #include <QStackedLayout>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace {
 
-// The window in twips: its width, and its height while the list or a panel shows.
+// The window in twips: its width, its height while the list or a panel shows, and while the
+// money of an evaluation shows below.
 constexpr double Sirka_Okna = 11160;
 constexpr double Vyska_Okna = 5184;
+constexpr double Vyska_Vyhodnoceni = 9216;
 
 const QColor Cervena(255, 0, 0);
 const QColor Zelena(0, 255, 0);
@@ -41,14 +56,7 @@ QString Text(const QString& klic) {
 }
 
 template <class T> T* Prvek(T* prvek, const QString& jmeno) {
-    prvek->setObjectName(jmeno);
-    if (const QString titulek = Text(jmeno); !titulek.isEmpty()) {
-        if constexpr (requires { prvek->setText(titulek); })
-            if (!qobject_cast<QLineEdit*>(prvek))
-                prvek->setText(titulek);
-    }
-    prvek->setToolTip(Text(jmeno + u".ToolTipText"_qs));
-    return prvek;
+    return modNastaveni_Ovladani::Prvek(prvek, u"frmVypisTipu"_qs, jmeno);
 }
 
 // The numbers of a tip line of the list; tokens that are no numbers above 0 are skipped.
@@ -76,42 +84,54 @@ frmVypisTipu::frmVypisTipu(frmMDITombi& ram, bool vlastni, QWidget* parent)
       cmdCisla_Tiketu(Prvek(new QPushButton(this), u"cmdCisla_Tiketu"_qs)),
       cmdOpakovatGener(Prvek(new QPushButton(this), u"cmdOpakovatGener"_qs)),
       cmdZrusit(Prvek(new QPushButton(this), u"cmdZrusit"_qs)), lblPocetRadek(Prvek(new QLabel(this), u"lblPocetRadek"_qs)),
-      Seznamy(new QStackedLayout), Ram(ram), Sezeni(ram.Sezeni()) {
+      Picture1(new QStackedWidget(this)), Analyza(new frmVypisTipu_Analyza(ram.Sezeni(), Picture1)),
+      Vyber(new frmVypisTipu_Vyber(ram.Sezeni(), Picture1)), Vyhodnoceni(nullptr), Vyhry(nullptr), Seznamy(new QStackedLayout), Ram(ram),
+      Sezeni(ram.Sezeni()) {
     setObjectName(u"frmVypisTipu"_qs);
     setWindowTitle(Tabulka_Textu::Programu().Text(u"frmVypisTipu"_qs));
     Sezeni.Formular_Otevren_Tipy = true;
+    ram.Zavri_Okno<frmGeneruj>();
 
     QFont pevne = List1->font();
     pevne.setFamily(u"DejaVu Sans"_qs);
     List1->setFont(pevne);
     List1->setUniformItemSizes(true);
+    List1->setMinimumWidth(QFontMetrics(pevne).horizontalAdvance(Radek_Tipu(Tip{{10, 20, 30, 40, 44, 49}})) +
+                           List1->verticalScrollBar()->sizeHint().width() + 4 * List1->frameWidth());
+    for (QPushButton* tlacitko : {cmdPouzita_Cisla, cmdPridej_Tipy, cmdZrusTip})
+        tlacitko->setMaximumWidth(picSloupec_Vypis_Tipu->sizeHint().width());
     lstFIX->addItems({QString(), Text(u"lstFIX"_qs)});
     lstFIX->setEnabled(false);
-    // The three panels of List2 are the evaluation's and the tip analysis's; until they stand their
-    // items cannot be chosen.
     List2->addItems({u"Analýza on line"_qs, u"Výběr tipů"_qs, u"Vyhodnotit!"_qs});
-    for (int i = 0; i < List2->count(); ++i)
-        List2->item(i)->setFlags(Qt::NoItemFlags);
     List2->setMaximumHeight(List2->sizeHintForRow(0) * 3 + 2 * List2->frameWidth() + 4);
+    Picture1->addWidget(Analyza);
+    Picture1->addWidget(Vyber);
+    connect(Analyza->cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(2); });
+    connect(Vyber->cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(1); });
+    connect(Vyber, &frmVypisTipu_Vyber::Zmena_Vyberu, this, [this] { Zmena_Vyberu = true; });
     Label9->setCursor(Qt::PointingHandCursor);
     Label9->installEventFilter(this);
     auto* lblCisla = new QLabel(Text(u"lblCisla_Tiketu"_qs), this);
-    // Repeating the run joins in with the generator window.
-    cmdOpakovatGener->setEnabled(false);
     for (QLineEdit* cislo : {txtOldCislo, txtNewCislo})
         cislo->setMaxLength(10);
 
+    // Left the list with the file's name and the ticket numbers under it, in the middle the
+    // picture with its buttons, on the right the panels.
     Seznamy->addWidget(List1);
     Seznamy->addWidget(lstFIX);
+    auto* soubor = new QGridLayout;
+    soubor->addWidget(lblPocetRadek, 0, 0);
+    soubor->addWidget(Label9, 0, 1);
+    soubor->addWidget(txtSoubor_Tipu, 1, 0, 1, 2);
+    soubor->addWidget(cmdUlozTipy, 1, 2);
+    soubor->addWidget(lblCisla, 2, 0, 1, 2);
+    soubor->addWidget(txtOldCislo, 3, 0);
+    soubor->addWidget(txtNewCislo, 3, 1);
+    soubor->addWidget(cmdCisla_Tiketu, 3, 2);
     auto* vlevo = new QVBoxLayout;
     vlevo->addLayout(Seznamy, 1);
-    vlevo->addWidget(lblPocetRadek);
+    vlevo->addLayout(soubor);
 
-    auto* cisla = new QGridLayout;
-    cisla->addWidget(lblCisla, 0, 0, 1, 2);
-    cisla->addWidget(txtOldCislo, 1, 0);
-    cisla->addWidget(txtNewCislo, 1, 1);
-    cisla->addWidget(cmdCisla_Tiketu, 2, 0, 1, 2);
     auto* uprostred = new QVBoxLayout;
     uprostred->addWidget(picSloupec_Vypis_Tipu, 0, Qt::AlignHCenter);
     uprostred->addWidget(cmdPouzita_Cisla);
@@ -119,24 +139,26 @@ frmVypisTipu::frmVypisTipu(frmMDITombi& ram, bool vlastni, QWidget* parent)
     uprostred->addWidget(cmdZrusTip);
     uprostred->addStretch();
 
+    auto* tlacitka = new QHBoxLayout;
+    tlacitka->addWidget(cmdZpet);
+    tlacitka->addWidget(cmdOpakovatGener);
+    tlacitka->addWidget(cmdZrusit);
     auto* vpravo = new QVBoxLayout;
     vpravo->addWidget(List2);
-    vpravo->addWidget(Label9);
-    vpravo->addWidget(txtSoubor_Tipu);
-    vpravo->addWidget(cmdUlozTipy);
-    vpravo->addSpacing(8);
-    vpravo->addLayout(cisla);
-    vpravo->addStretch();
-    vpravo->addWidget(cmdZpet);
-    vpravo->addWidget(cmdOpakovatGener);
-    vpravo->addWidget(cmdZrusit);
+    vpravo->addWidget(Picture1, 1);
+    vpravo->addLayout(tlacitka);
 
-    auto* rozlozeni = new QHBoxLayout(this);
-    rozlozeni->addLayout(vlevo, 3);
-    rozlozeni->addLayout(uprostred, 0);
-    rozlozeni->addLayout(vpravo, 2);
+    auto* nahore = new QHBoxLayout;
+    nahore->addLayout(vlevo, 1);
+    nahore->addLayout(uprostred, 0);
+    nahore->addLayout(vpravo, 0);
+    auto* rozlozeni = new QVBoxLayout(this);
+    rozlozeni->addLayout(nahore, 1);
+    Spodek = new QVBoxLayout;
+    rozlozeni->addLayout(Spodek);
     resize(Pixely(Sirka_Okna, *this), Pixely(Vyska_Okna, *this));
 
+    connect(List2, &QListWidget::currentRowChanged, this, &frmVypisTipu::List2_Click);
     connect(List1, &QListWidget::currentRowChanged, this, [this](int radek) {
         if (!Meni_Cisla)
             Vyznac_Krizky(radek);
@@ -152,6 +174,12 @@ frmVypisTipu::frmVypisTipu(frmMDITombi& ram, bool vlastni, QWidget* parent)
         Sezeni.Tikety.Zrusit_Beh = true;
         close();
     });
+    connect(cmdOpakovatGener, &QPushButton::clicked, this, [this] {
+        frmMDITombi& ram = Ram;
+        close();
+        ram.Sezeni().Tikety.Zrusit_Beh = false;
+        ram.Otevri_Okno<frmGeneruj>(ram);
+    });
     connect(txtSoubor_Tipu, &QLineEdit::textEdited, this, [this] { Jmeno_Upraveno = true; });
     Nacti(vlastni);
 }
@@ -165,6 +193,7 @@ void frmVypisTipu::Prevezmi(frmMDITombi&, bool vlastni) {
 }
 
 void frmVypisTipu::Nacti(bool vlastni) {
+    Nacita = true;
     Vlastni_Tipy = false;
     Pocet_Radek = 0;
     picSloupec_Vypis_Tipu->Vycisti();
@@ -180,6 +209,139 @@ void frmVypisTipu::Nacti(bool vlastni) {
         Sezeni.Sluzby->Nastav_Status(QString(), QString());
     }
     Zaloha_Tipu = std::make_unique<Zaznam_Tipu>(Sezeni.Tipy.Soubor_Tipu);
+    Vytvor_Vyhodnoceni();
+    Vyska(Vyska_Okna);
+    Picture1->setCurrentIndex(2);
+    List2->setCurrentRow(2);
+    Nacita = false;
+}
+
+void frmVypisTipu::Vytvor_Vyhodnoceni() {
+    // Every opening starts the evaluation afresh: the wins go, the numbers kept in the boxes stay.
+    delete Vyhodnoceni;
+    delete Vyhry;
+    Vyhry = new frmVypisTipu_Vyhry(Sezeni, this);
+    Vyhry->hide();
+    Spodek->addWidget(Vyhry);
+    Vyhodnoceni = new frmVypisTipu_Vyhodnoceni(Sezeni, *Vyhry, Picture1);
+    Picture1->insertWidget(2, Vyhodnoceni);
+    connect(Vyhodnoceni->cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(0); });
+    connect(Vyhodnoceni, &frmVypisTipu_Vyhodnoceni::Vyhodnotit, this, [this] { cmdOK_Click(0); });
+    connect(Vyhodnoceni, &frmVypisTipu_Vyhodnoceni::Tah_Zobrazen, this, [this] {
+        if (List1->currentRow() < 0)
+            picSloupec_Vypis_Tipu->Vycisti();
+        Vyznac_Krizky(List1->currentRow());
+        Zobraz_Tazena();
+    });
+    connect(Vyhry, &frmVypisTipu_Vyhry::Vyhra_Zvolena, this, &frmVypisTipu::Najdi_Vyhru);
+    connect(Vyhry, &frmVypisTipu_Vyhry::Jeden_Tah, this, [this](int tah, QChar kod) {
+        const int radek = List1->currentRow();
+        if (radek >= 0)
+            Vyhodnoceni->Vypis_Jeden_Tah(tah, kod, List1->item(radek)->text() + u' ');
+    });
+}
+
+void frmVypisTipu::Vyska(double twipy) {
+    Vyhry->setVisible(twipy > Vyska_Okna);
+    const int vyska = std::max(Pixely(twipy, *this), minimumSizeHint().height());
+    // In the area the frame around the window takes the new height.
+    if (auto* ram = qobject_cast<QMdiSubWindow*>(parentWidget()))
+        ram->resize(ram->width(), vyska + ram->height() - height());
+    else
+        resize(width(), vyska);
+}
+
+// ---- The panels ----
+
+void frmVypisTipu::List2_Click(int index) {
+    if (Nacita || index < 0 || index == Picture1->currentIndex())
+        return;
+    Picture1->setCurrentIndex(index);
+    Vyska(Vyska_Okna);
+    Nakresli_Neobsazena();
+    if (index == 0)
+        cmdPridej_Tipy_Click();
+    else if (index == 2)
+        picSloupec_Vypis_Tipu->Vycisti();
+}
+
+void frmVypisTipu::Nakresli_Neobsazena() {
+    // Numbers no tip holds yet are circled while tips are entered by hand.
+    if (!Vlastni_Tipy)
+        return;
+    for (const QString& cislo : modAnalyza_Tipu::Neobsazena_Cisla(Sezeni.Tipy.Soubor_Tipu).split(u',', Qt::SkipEmptyParts))
+        picSloupec_Vypis_Tipu->Pridej_Kruh(int(Vb::Val(cislo)));
+}
+
+void frmVypisTipu::cmdOK_Click(int index) {
+    // The start common to the three panels' buttons.
+    Zaloha_Tipu = std::make_unique<Zaznam_Tipu>(Sezeni.Tipy.Soubor_Tipu);
+    Zrus_Zapis();
+    const int radek = List1->currentRow();
+    List1->setCurrentRow(-1);
+    Sezeni.Tikety.Zrusit_Beh = false;
+    if (index == 0) {
+        const std::optional<Vysledek_Vyhodnoceni> vysledek = Vyhodnoceni->Vyhodnot();
+        if (!vysledek)
+            return;
+        Vyska(Vyska_Vyhodnoceni);
+        QCoreApplication::processEvents();
+        Vyhry->Vypis_Vyher(*vysledek, Vyhodnoceni->Typ() == 1);
+        Sezeni.Sluzby->Nastav_Aktivni_Poradi(QString());
+        return;
+    }
+    if (index == 1) {
+        const int radku = List1->count();
+        if (Vyber->Vyber_Tipy())
+            Vypis_Tipu_Do_Listu();
+        picSloupec_Vypis_Tipu->Vycisti();
+        Nakresli_Neobsazena();
+        if (List1->count() != radku)
+            Sezeni.Tikety.Zmena_Dat = true;
+    } else if (index == 2 && Zmena_Vyberu) {
+        Vypis_Tipu_Do_Listu();
+        Zmena_Vyberu = false;
+    }
+    if (radek >= 0 && radek < List1->count())
+        List1->setCurrentRow(radek);
+}
+
+void frmVypisTipu::Zobraz_Tazena() {
+    // The drawn numbers of both rows of boxes framed on the picture, each draw in its colour.
+    for (int tah = 1; tah <= 2; ++tah) {
+        const QColor barva =
+            frmKresleni::Barva_Z_Vb(tah == 1 ? Sezeni.Nastaveni.Barva_Krizku_1 : Sezeni.Nastaveni.Barva_Krizku_2);
+        const Radek_Tahu radek = Vyhodnoceni->Radek(tah);
+        for (std::size_t i = 0; i < 6; ++i) {
+            if (radek[i] <= 0 || radek[i] > 49)
+                continue;
+            int rad = 0, sloup = 0;
+            pTikety::Dej_Rad_Sloup(radek[i], rad, sloup);
+            const double posun = tah == 1 ? 95 : 80;
+            picSloupec_Vypis_Tipu->Pridej_Ramecek(347.0 * sloup + posun + 25, 347.0 * rad + posun + 35, barva, 2);
+        }
+    }
+}
+
+void frmVypisTipu::Najdi_Vyhru(const Misto_Vyhry& misto) {
+    // The ticket's place by its number, then the tip's line from the row where it should stand.
+    const Zaznam_Tipu& tipy = Sezeni.Tipy.Soubor_Tipu;
+    List1->setCurrentRow(-1);
+    Sezeni.Sluzby->Nastav_Status(QString(), QString());
+    int misto_tiketu = 0;
+    for (int i = 1; i <= std::min<int>(tipy.Pocet_Tiketu, Max_Tiketu) && misto_tiketu == 0; ++i)
+        if (tipy.Tikety[i].Cislo_Tiketu == misto.Cislo_Tiketu)
+            misto_tiketu = i;
+    if (misto_tiketu == 0 || misto.Sloupec < 1 || misto.Sloupec > Sloupcu_Tiketu)
+        return;
+    const QString text = Radek_Tipu(tipy.Tikety[misto_tiketu].Cisla[misto.Sloupec]);
+    const int ocekavany = misto_tiketu * Radku_Na_Tiket - Radku_Na_Tiket + misto.Sloupec;
+    for (int r = std::max(1, ocekavany); r < List1->count(); ++r)
+        if (List1->item(r)->text() == text) {
+            List1->setCurrentRow(r);
+            List1->scrollToItem(List1->item(r));
+            return;
+        }
 }
 
 void frmVypisTipu::Vypis_Tipu_Do_Listu() {
@@ -194,6 +356,7 @@ void frmVypisTipu::Vypis_Tipu_Do_Listu() {
     List1->addItems(vypis.Radky);
     Seznamy->setCurrentWidget(List1);
     Sezeni.Tipy.Soubor_Tipu.Pocet_Tipu = int16_t(vypis.Pocet_Tipu_Celkem);
+    Sezeni.Tipy.Pocet_Tipu_Celkem = vypis.Pocet_Tipu_Celkem;
     Sezeni.Sluzby->Nastav_Soubor_Tipu(QString::number(vypis.Pocet_Tipu_Celkem));
     if (!Jmeno_Upraveno || txtSoubor_Tipu->text().trimmed().isEmpty())
         Navrhni_Jmeno();
@@ -205,6 +368,7 @@ void frmVypisTipu::Vypis_Tipu_Do_Listu() {
     if (!Vlastni_Tipy)
         Pocet_Radek = 0;
     lblPocetRadek->setText(QString::number(List1->count()));
+    Vyber->Vypocet_Pomeru();
 }
 
 void frmVypisTipu::Navrhni_Jmeno() {
@@ -256,6 +420,13 @@ void frmVypisTipu::Vyznac_Krizky(int radek) {
     Sezeni.Sluzby->Nastav_Aktivni_Poradi(QString::number(celkem) + u" / "_qs + QString::number(sloupec));
     for (const int n : cisla)
         picSloupec_Vypis_Tipu->Pridej_Krizek(n);
+    if (Vyhodnoceni != nullptr) {
+        Tip tip;
+        for (int i = 0; i < std::min<int>(int(cisla.size()), Tip::Pocet()); ++i)
+            tip[i + 1] = uint8_t(cisla[i]);
+        Vyhodnoceni->Obarvi_Tip(tip);
+        Zobraz_Tazena();
+    }
 }
 
 void frmVypisTipu::Vyznac_Tiket(int radek) {
@@ -288,18 +459,26 @@ void frmVypisTipu::cmdPridej_Tipy_Click() {
     Obarvi_Zapis(Cervena, true);
     picSloupec_Vypis_Tipu->Vycisti();
     Vlastni_Tipy = true;
+    Sezeni.Generator.Vyber.Rozpis_Aktivni = false;
     Pocet_Radek = 0;
+    Nakresli_Neobsazena();
 }
 
 void frmVypisTipu::Nakresli_Rozpracovany() {
     picSloupec_Vypis_Tipu->Vycisti();
     for (int i = 1; i <= Pocet_Radek; ++i)
         picSloupec_Vypis_Tipu->Pridej_Krizek(Sezeni.Aktualni_Tip[i]);
+    Nakresli_Neobsazena();
 }
 
 void frmVypisTipu::picSloupec_Klik(int cislo, Qt::MouseButton, bool ctrl) {
-    // Ctrl+click fills the boxes of the drawn numbers, which come with the evaluation panel.
-    if (ctrl || (!Vlastni_Tipy && List1->count() > 0))
+    // Ctrl+click fills the boxes of the drawn numbers and leaves the tip alone.
+    if (ctrl) {
+        if (cislo < 50)
+            Vyhodnoceni->Zapis_Do_Tahu(cislo);
+        return;
+    }
+    if (!Vlastni_Tipy && List1->count() > 0)
         return;
     List1->setCurrentRow(-1);
     Tip& tip = Sezeni.Aktualni_Tip;
@@ -325,7 +504,7 @@ void frmVypisTipu::picSloupec_Klik(int cislo, Qt::MouseButton, bool ctrl) {
         Obarvi_Zapis(Zelena, true);
     } else if (Pocet_Radek < Tip::Pocet()) {
         tip[++Pocet_Radek] = uint8_t(cislo);
-        picSloupec_Vypis_Tipu->Pridej_Krizek(cislo);
+        Nakresli_Rozpracovany();
         if (Pocet_Radek == Tip::Pocet())
             Obarvi_Zapis(Zelena, true);
     }
@@ -334,6 +513,11 @@ void frmVypisTipu::picSloupec_Klik(int cislo, Qt::MouseButton, bool ctrl) {
     for (int i = 1; i <= Pocet_Radek; ++i)
         text += u' ' + QString::number(tip[i]);
     Zobraz_Cisla(text, Pocet_Radek);
+    // While the tip is unfinished, or filled at random, the on-line analysis follows each click.
+    if (Vlastni_Tipy && (Pocet_Radek < Tip::Pocet() || cislo == 50)) {
+        List2->setCurrentRow(0);
+        Analyza->Klik_Cisla(cislo, text);
+    }
 }
 
 void frmVypisTipu::cmdPouzita_Cisla_Click() {
@@ -358,6 +542,8 @@ void frmVypisTipu::cmdPouzita_Cisla_Click() {
         return;
     }
     Vypis_Tipu_Do_Listu();
+    Analyza->Vycisti();
+    List2->setCurrentRow(1);
     Sezeni.Tikety.Zmena_Dat = true;
     picSloupec_Vypis_Tipu->Vycisti();
     List1->scrollToBottom();
@@ -380,8 +566,15 @@ void frmVypisTipu::cmdZrusTip_Click() {
     // The list stands in 12 lines a ticket: the head, ten tips, the gap.
     int tiket = 0, sloupec = 0;
     pTikety::Zjisti_Tik_Slo(radek, Radku_Na_Tiket, tiket, sloupec);
+    if ((Sezeni.Pocet_Sazejicich > 0 || Sezeni.Generator.Vyber.Rozpis_Aktivni) &&
+        Sezeni.Dialog->Otazka(Dialogy::Ikona::Vykricnik, u"                              P O Z O R  !!!"_qs,
+                              u"                             Máte zvolen\r\n\"ROZPIS\" nebo je vazba na \"SEZNAM "
+                              u"SÁZEJÍCÍCH\"\r\n          Opravdu si přejete zrušit označený tip ?"_qs,
+                              Dialogy::Tlacitka::Ano_Ne, Dialogy::Odpoved::Ne) != Dialogy::Odpoved::Ano)
+        return;
     if (!Vlastni_Tipy)
         Zrus_Zapis();
+    Analyza->Vycisti();
     Zrus_Tip(Sezeni.Tipy.Soubor_Tipu, tiket, sloupec);
     Sezeni.Tipy.Pocet_Tipu_Aktivni = std::max<int16_t>(0, int16_t(Sezeni.Tipy.Pocet_Tipu_Aktivni - 1));
     Sezeni.Tikety.Zmena_Dat = true;
@@ -487,7 +680,8 @@ void frmVypisTipu::Pripoj_Prikazy(frmMDITombi& ram) {
             ram.Sezeni().Sluzby->Zprava(u"Není soubor tipů."_qs);
     });
     ram.Obsluz(ram.mnuVlastniTipy, [&ram] {
-        // The generator, the draw list and the bettors' list close here too once they are built.
+        // The draw list and the bettors' list close here too once they are built.
+        ram.Zavri_Okno<frmGeneruj>();
         ram.Zavri_Okno<frmVypisTipu>();
         ram.Otevri_Okno<frmVypisTipu>(ram, true);
         ram.Sezeni().Sluzby->Nastav_Status(QString(), QString());

@@ -2,7 +2,7 @@
 // The tip list: the tips of the store ticket by ticket in List1, the picture of one ticket column
 // with the crosses of the chosen tip, tips entered by hand, deletion, saving, ticket numbers and
 // the undo. The three panels of List2 (on-line analysis, choice of tips, evaluation) stand on the
-// right of the window.
+// right of the window, the money of an evaluation below it.
 
 #include "data/Soubor_Tipu.h"
 
@@ -15,8 +15,15 @@ class QLineEdit;
 class QListWidget;
 class QPushButton;
 class QStackedLayout;
+class QStackedWidget;
+class QVBoxLayout;
 class frmMDITombi;
 class frmSloupec_Tiketu;
+class frmVypisTipu_Analyza;
+class frmVypisTipu_Vyber;
+class frmVypisTipu_Vyhodnoceni;
+class frmVypisTipu_Vyhry;
+struct Misto_Vyhry;
 struct Relace;
 
 class frmVypisTipu final : public QWidget {
@@ -51,6 +58,12 @@ public:
     QPushButton* cmdOpakovatGener;
     QPushButton* cmdZrusit;
     QLabel* lblPocetRadek;
+    // The panels of List2 (Picture1(0..2)) and the money below the list.
+    QStackedWidget* Picture1;
+    frmVypisTipu_Analyza* Analyza;
+    frmVypisTipu_Vyber* Vyber;
+    frmVypisTipu_Vyhodnoceni* Vyhodnoceni;
+    frmVypisTipu_Vyhry* Vyhry;
 
 protected:
     void closeEvent(QCloseEvent* udalost) override;
@@ -72,13 +85,23 @@ private:
     void Zrus_Zapis();
     void Obarvi_Zapis(const QColor& barva, bool povolit);
     void Navrhni_Jmeno();
+    void List2_Click(int index);
+    void cmdOK_Click(int index);
+    void Zobraz_Tazena();
+    void Nakresli_Neobsazena();
+    void Najdi_Vyhru(const Misto_Vyhry& misto);
+    void Vyska(double twipy);
+    void Vytvor_Vyhodnoceni();
 
     QStackedLayout* Seznamy; // List1, or lstFIX while the list is being built
+    QVBoxLayout* Spodek;     // the money of an evaluation
     frmMDITombi& Ram;
     Relace& Sezeni;
     bool Vlastni_Tipy = false;
     bool Jmeno_Upraveno = false;
     bool Meni_Cisla = false;
+    bool Zmena_Vyberu = false;
+    bool Nacita = false;
     int Pocet_Radek = 0;        // in hand entry: numbers chosen so far
     int Posledni_Radek = -1;    // to tell up from down when stepping over gaps
     std::unique_ptr<Zaznam_Tipu> Zaloha_Tipu;

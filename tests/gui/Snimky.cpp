@@ -12,18 +12,26 @@
 #include "app/frmKresleni.h"
 #include "app/frmPismo.h"
 #include "app/frmSloupec_Tiketu.h"
+#include "generator/frmGeneruj.h"
+#include "generator/frmGeneruj_Omezeni.h"
+#include "generator/frmGeneruj_Vyber.h"
 #include "tips/frmVypisTipu.h"
+#include "tips/frmVypisTipu_Vyhodnoceni.h"
+#include "tips/frmVypisTipu_Vyhry.h"
 #include "app/frmPrehled.h"
 #include "app/frmTombi_uvod.h"
 #include "data/Chyby_A_Prehled.h"
 #include "data/Soubory.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -114,6 +122,63 @@ int main(int argc, char** argv) {
              vypis->List1->setCurrentRow(2);
              return prostredi.Okno.release();
          }},
+        // The same list after an evaluation of a typed draw, prizes filled in and a win chosen.
+        {u"frmVypisTipu_Vyhodnoceni"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 26));
+             Uloz_Soubor(prostredi.Cesta(u"261126_24.tip"_qs), Soubor_Tipu(24));
+             prostredi.Spust().resize(880, 800);
+             prostredi.Otevri_Tipy(u"261126_24.tip"_qs);
+             auto* vypis = prostredi.Okno->Najdi_Okno<frmVypisTipu>();
+             const int tah[] = {3, 4, 5, 9, 12, 30, 41};
+             for (int i = 0; i < 7; ++i)
+                 vypis->Vyhodnoceni->Tah1[std::size_t(i)]->setText(QString::number(tah[i]));
+             const char* const ceny[] = {"20000000", "500000", "20000", "600", "120"};
+             for (std::size_t i = 0; i < 5; ++i)
+                 vypis->Vyhry->Tah1Vyhra[i]->setText(QString::fromLatin1(ceny[i]));
+             vypis->Vyhodnoceni->cmdOK->click();
+             vypis->Vyhry->Tah1Vyhra[4]->setText(u"120"_qs);
+             emit vypis->Vyhry->Tah1Vyhra[4]->textEdited(u"120"_qs);
+             vypis->List1->setCurrentRow(8);
+             return prostredi.Okno.release();
+         }},
+        // Tips entered by hand with the on-line analysis, and the choice of tips by pattern.
+        {u"frmVypisTipu_Analyza"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 26));
+             Uloz_Soubor(prostredi.Cesta(u"261126_24.tip"_qs), Soubor_Tipu(24));
+             prostredi.Spust().resize(880, 700);
+             prostredi.Otevri_Tipy(u"261126_24.tip"_qs);
+             auto* vypis = prostredi.Okno->Najdi_Okno<frmVypisTipu>();
+             vypis->List2->setCurrentRow(0);
+             for (const int cislo : {3, 4, 17})
+                 emit vypis->picSloupec_Vypis_Tipu->Klik(cislo, Qt::LeftButton, false);
+             return prostredi.Okno.release();
+         }},
+        {u"frmVypisTipu_Vyber"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 26));
+             Uloz_Soubor(prostredi.Cesta(u"261126_24.tip"_qs), Soubor_Tipu(24));
+             prostredi.Spust().resize(880, 700);
+             prostredi.Otevri_Tipy(u"261126_24.tip"_qs);
+             prostredi.Okno->Najdi_Okno<frmVypisTipu>()->List2->setCurrentRow(1);
+             return prostredi.Okno.release();
+         }},
+        // The generator with numbers taken from the status band, a tutovka by a right click and two
+        // filters on.
+        {u"frmGeneruj"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 26));
+             frmMDITombi& okno = prostredi.Spust();
+             okno.resize(1060, 720);
+             prostredi.Data->Sluzby->Nastav_Status(u" 2 7 11 16 19 23 28 31 35 38 42 46"_qs, u"12"_qs);
+             frmGeneruj* generator = frmGeneruj::Nacti_Cisla_Do_Generatoru(okno);
+             emit generator->Vyber->picSloupec->Klik(9, Qt::RightButton, false);
+             generator->Omezeni->Check1[0]->setChecked(true);
+             generator->Omezeni->Check1[8]->setChecked(true);
+             generator->txtPoc_Tipu->setText(u"30"_qs);
+             return prostredi.Okno.release();
+         }},
         {u"frmSloupec_Tiketu"_qs,
          [](QWidget*) -> QWidget* {
              static Nastaveni_Zaznam nastaveni = Vychozi_Nastaveni(QString(), u"2.0"_qs);
@@ -145,7 +210,11 @@ int main(int argc, char** argv) {
     QDir().mkpath(slozka);
 
     int chyby = 0;
+    // Names on the command line take only those pictures.
+    const QStringList jen = QApplication::arguments().mid(1);
     for (const Snimek& snimek : snimky) {
+        if (!jen.isEmpty() && !jen.contains(snimek.Jmeno))
+            continue;
         std::unique_ptr<QWidget> okno(snimek.Otevri(&hlavni));
         if (okno == nullptr) {
             qWarning("%s: okno se neotevřelo", qPrintable(snimek.Jmeno));

@@ -87,7 +87,7 @@ private slots:
                 QVERIFY2(!prikaz->text().isEmpty(), qPrintable(prikaz->objectName()));
         QCOMPARE(ctvrtek.Prvek(u"lblAktivniPoradi"_qs)->toolTip(),
                  u" Pořadové číslo vybraného tahu nebo tipu celkem / v tiketu. "_qs);
-        QVERIFY(!ctvrtek.Prikaz(u"mnuGenerujTipy"_qs)->isEnabled());
+        QVERIFY(!ctvrtek.Prikaz(u"mnuExportTipu"_qs)->isEnabled());
         QVERIFY(ctvrtek.Prikaz(u"mnuOtevriSouborTipu"_qs)->isEnabled());
     }
 

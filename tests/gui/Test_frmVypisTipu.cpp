@@ -47,8 +47,16 @@ private slots:
         QVERIFY(!vypis->picSloupec_Vypis_Tipu->Je_Prazdny());
         QCOMPARE(prostredi.Prvek<QLabel>(u"lblAktivniPoradi"_qs)->text(), u"1 / 1"_qs);
 
-        // The first tip of ticket 2 goes; the undo brings it back.
+        // With a bettors' list the deletion asks first; No keeps the tip.
         seznam->setCurrentRow(13);
+        prostredi.Data->Pocet_Sazejicich = 2;
+        prostredi.Dialogy.Odpovedi.enqueue(Dialogy::Odpoved::Ne);
+        QTest::mouseClick(vypis->cmdZrusTip, Qt::LeftButton);
+        QCOMPARE(int(prostredi.Data->Tipy.Pocet_Tipu_Aktivni), 25);
+        QVERIFY(prostredi.Dialogy.Okna.last().contains(u"Opravdu si přejete zrušit označený tip ?"_qs));
+        prostredi.Data->Pocet_Sazejicich = 0;
+
+        // The first tip of ticket 2 goes; the undo brings it back.
         QTest::mouseClick(vypis->cmdZrusTip, Qt::LeftButton);
         QCOMPARE(int(prostredi.Data->Tipy.Pocet_Tipu_Aktivni), 24);
         QCOMPARE(seznam->count(), 12 + 12 + 5);

@@ -1,5 +1,7 @@
 #include "Dialogy_Testu.h"
 
+#include <QPrinter>
+
 namespace {
 
 QString Zaznam(Dialogy::Ikona ikona, const QString& titulek, const QString& text) {
@@ -43,4 +45,16 @@ bool Dialogy_Testu::Vybrat_Pismo(Pismo& pismo) {
 
 bool Dialogy_Testu::Vybrat_Tiskarnu() {
     return Tiskarny.isEmpty() ? false : Tiskarny.dequeue();
+}
+
+Dialogy_Testu::Dialogy_Testu() = default;
+Dialogy_Testu::~Dialogy_Testu() = default;
+
+QPrinter& Dialogy_Testu::Tiskarna() {
+    if (!Tiskarna_Pdf) {
+        Tiskarna_Pdf = std::make_unique<QPrinter>(QPrinter::ScreenResolution);
+        Tiskarna_Pdf->setOutputFormat(QPrinter::PdfFormat);
+    }
+    Tiskarna_Pdf->setOutputFileName(Pdf);
+    return *Tiskarna_Pdf;
 }

@@ -8,6 +8,8 @@
 #include <QQueue>
 #include <QStringList>
 
+#include <memory>
+
 class Dialogy_Testu final : public Dialogy {
 public:
     QStringList Okna;                           // message boxes and questions shown, in order
@@ -16,6 +18,10 @@ public:
     QQueue<std::optional<Pismo>> Pisma;         // answers of the next font dialogs
     QQueue<bool> Tiskarny;                      // answers of the next printer dialogs
     QStringList Filtry;                         // the filters the file dialogs were shown with
+    QString Pdf;                                // printouts go to this PDF file
+
+    Dialogy_Testu();
+    ~Dialogy_Testu() override;
 
     void Okno_Zpravy(Ikona ikona, const QString& titulek, const QString& text) override;
     Odpoved Otazka(Ikona ikona, const QString& titulek, const QString& text, Tlacitka tlacitka,
@@ -25,4 +31,8 @@ public:
                                          const QString& slozka) override;
     bool Vybrat_Pismo(Pismo& pismo) override;
     bool Vybrat_Tiskarnu() override;
+    QPrinter& Tiskarna() override;
+
+private:
+    std::unique_ptr<QPrinter> Tiskarna_Pdf;
 };

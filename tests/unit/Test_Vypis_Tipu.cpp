@@ -101,5 +101,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(Test_Vypis_Tipu)
+QTEST_GUILESS_MAIN(Test_Vypis_Tipu)
 #include "Test_Vypis_Tipu.moc"

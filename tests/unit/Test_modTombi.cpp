@@ -166,5 +166,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(Test_modTombi)
+QTEST_GUILESS_MAIN(Test_modTombi)
 #include "Test_modTombi.moc"

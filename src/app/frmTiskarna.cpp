@@ -1,0 +1,67 @@
+#include "app/frmTiskarna.h"
+
+#include <QFontMetricsF>
+#include <QPrinter>
+
+#include <cmath>
+
+frmTiskarna::frmTiskarna(QPrinter& tiskarna) : Tiskarna(tiskarna), Font(QStringLiteral("DejaVu Sans"), 10) {
+    if (Kreslic.begin(&Tiskarna))
+        Kreslic.setFont(QFont(Font, &Tiskarna));
+}
+
+frmTiskarna::~frmTiskarna() {
+    Konec();
+}
+
+void frmTiskarna::Pismo(const QString& jmeno) {
+    Font.setFamily(jmeno);
+    Kreslic.setFont(QFont(Font, &Tiskarna));
+}
+
+void frmTiskarna::Velikost(double body) {
+    Font.setPointSizeF(body);
+    Kreslic.setFont(QFont(Font, &Tiskarna));
+}
+
+void frmTiskarna::Text(const QString& text) {
+    if (!Ok() || text.isEmpty())
+        return;
+    const QFontMetricsF mira(Kreslic.font(), &Tiskarna);
+    Kreslic.drawText(QPointF(X, Y + mira.ascent()), text);
+    X += mira.horizontalAdvance(text);
+}
+
+void frmTiskarna::Zona(const QString& text) {
+    if (!Ok())
+        return;
+    const double zona = 14 * QFontMetricsF(Kreslic.font(), &Tiskarna).averageCharWidth();
+    X = (std::floor(X / zona) + 1) * zona;
+    Text(text);
+}
+
+void frmTiskarna::Radek(const QString& text) {
+    Text(text);
+    Novy_Radek();
+}
+
+double frmTiskarna::Sirka_Twips(const QString& text) const {
+    const double pixely = QFontMetricsF(Kreslic.font(), &Tiskarna).horizontalAdvance(text);
+    return pixely * 1440.0 / Tiskarna.resolution();
+}
+
+void frmTiskarna::Novy_Radek() {
+    if (!Ok())
+        return;
+    X = 0;
+    Y += QFontMetricsF(Kreslic.font(), &Tiskarna).lineSpacing();
+    if (Y + QFontMetricsF(Kreslic.font(), &Tiskarna).height() > Kreslic.viewport().height()) {
+        Tiskarna.newPage();
+        Y = 0;
+    }
+}
+
+void frmTiskarna::Konec() {
+    if (Kreslic.isActive())
+        Kreslic.end();
+}
