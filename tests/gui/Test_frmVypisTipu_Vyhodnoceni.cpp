@@ -138,6 +138,15 @@ private slots:
         QCOMPARE(vyhry->lstTiketyVypis->model()->rowCount(), int(ocekavane.Pocet_Vyhernich_Zaznamu()));
         QCOMPARE(Hodnota(vyhry->Tah1Cena[4]), double(ocekavane.Vyhry_1Tah[5]));
 
+        // The kinds clicked add up: back on the typed numbers, the file still goes against the
+        // archive too, and the counts of both stand together.
+        QTest::mouseClick(panel->Typ_Vyhodnoceni[0], Qt::LeftButton);
+        for (std::size_t i = 0; i < 7; ++i)
+            panel->Tah1[i]->setText(QString::number(i + 1));
+        QTest::mouseClick(panel->cmdOK, Qt::LeftButton);
+        QCOMPARE(Hodnota(vyhry->Tah1Cena[0]), double(ocekavane.Vyhry_1Tah[1] + 1));
+        QCOMPARE(vyhry->lstTiketyVypis->model()->rowCount(), int(ocekavane.Pocet_Vyhernich_Zaznamu()));
+
         // The winning tickets on paper, and the payouts list without and with bettors.
         prostredi.Dialogy.Pdf = prostredi.Cesta(u"vyhry.pdf"_qs);
         prostredi.Dialogy.Tiskarny.enqueue(true);
@@ -157,6 +166,15 @@ private slots:
         QVERIFY(listina.contains(u"Výherní listina ze dne 26.11.26"_qs));
         QVERIFY(listina.contains(u"Jan Novák"_qs));
         QVERIFY(listina.contains(u"1 500,-"_qs));
+    }
+
+    void Velky_Soubor() {
+        // More than 950 tips go against the newest second draw only.
+        Prostredi prostredi(QDate(2026, 11, 26));
+        frmVypisTipu* vypis = Otevri(prostredi, 960);
+        QTest::mouseClick(vypis->Vyhodnoceni->Typ_Vyhodnoceni[2], Qt::LeftButton);
+        QCOMPARE(vypis->Vyhodnoceni->txtPocet_2Tahu->text(), u"1"_qs);
+        QCOMPARE(vypis->Vyhodnoceni->scrPocet_2Tahu->value(), 1);
     }
 
     void Vypis_Vsech_Tipu() {
