@@ -38,6 +38,15 @@ inline QString Indexem(const QString& jmeno, int i) {
 // Val of a box's text, held within what an int takes.
 int Cele_Cislo(const QLineEdit* pole);
 
+// The captions of one window and the naming of its controls, for the window's files:
+//     const Texty_Okna Okno{u"frmGeneruj"_qs};
+//     Okno.Text(u"lblPoc_Tipu"_qs);  Okno.Pojmenuj(new QLineEdit(this), u"txtPoc_Tipu"_qs);
+struct Texty_Okna {
+    QString Jmeno;
+    QString Text(const QString& klic) const { return Tabulka_Textu::Programu().Text(Jmeno + u'.' + klic); }
+    template <class T> T* Pojmenuj(T* prvek, const QString& jmeno) const { return Prvek(prvek, Jmeno, jmeno); }
+};
+
 // Lets the box take only the digits 0..9 (and deletion), as Filtr_Klavesy does for every key.
 void Jen_Cislice(QLineEdit* pole);
 

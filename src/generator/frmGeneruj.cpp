@@ -34,34 +34,26 @@ using modNastaveni_Ovladani::Cele_Cislo;
 
 namespace {
 
-const QString Okno = u"frmGeneruj"_qs;
-
-QString Text(const QString& klic) {
-    return Tabulka_Textu::Programu().Text(Okno + u'.' + klic);
-}
-
-template <class T> T* Pojmenuj(T* prvek, const QString& jmeno) {
-    return Prvek(prvek, Okno, jmeno);
-}
+const modNastaveni_Ovladani::Texty_Okna Okno{u"frmGeneruj"_qs};
 
 } // namespace
 
 frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
-    : QWidget(parent), txtPoc_Tipu(Pojmenuj(new QLineEdit(this), u"txtPoc_Tipu"_qs)),
-      txtPoc_Tiketu(Pojmenuj(new QLineEdit(this), u"txtPoc_Tiketu"_qs)),
-      lblVklad(Pojmenuj(new QLabel(this), u"lblVklad"_qs)), chkSance(Pojmenuj(new QCheckBox(this), u"chkSance"_qs)),
-      txtSeminko(Pojmenuj(new QLineEdit(this), u"txtSeminko"_qs)),
-      txtVlastni_Seminko(Pojmenuj(new QLineEdit(this), u"txtVlastni_Seminko"_qs)),
-      lblTiket(Pojmenuj(new QLabel(this), u"lblTiket"_qs)), lblTip(Pojmenuj(new QLabel(this), u"lblTip"_qs)),
-      fraTypyRozpisu(Pojmenuj(new QGroupBox(this), u"fraTypyRozpisu"_qs)),
-      lstSportka(Pojmenuj(new QListWidget(this), u"lstSportka"_qs)),
-      chkSpojvatRozpisy(Pojmenuj(new QCheckBox(this), u"chkSpojvatRozpisy"_qs)),
-      Command1(Pojmenuj(new QPushButton(this), u"Command1"_qs)),
-      cmdUvolnit_Seznam_Sazejicich(Pojmenuj(new QPushButton(this), u"cmdUvolnit_Seznam_Sazejicich"_qs)),
-      cmdOK(Pojmenuj(new QPushButton(this), u"cmdOK"_qs)), cmdZrusit(Pojmenuj(new QPushButton(this), u"cmdZrusit"_qs)),
+    : QWidget(parent), txtPoc_Tipu(Okno.Pojmenuj(new QLineEdit(this), u"txtPoc_Tipu"_qs)),
+      txtPoc_Tiketu(Okno.Pojmenuj(new QLineEdit(this), u"txtPoc_Tiketu"_qs)),
+      lblVklad(Okno.Pojmenuj(new QLabel(this), u"lblVklad"_qs)), chkSance(Okno.Pojmenuj(new QCheckBox(this), u"chkSance"_qs)),
+      txtSeminko(Okno.Pojmenuj(new QLineEdit(this), u"txtSeminko"_qs)),
+      txtVlastni_Seminko(Okno.Pojmenuj(new QLineEdit(this), u"txtVlastni_Seminko"_qs)),
+      lblTiket(Okno.Pojmenuj(new QLabel(this), u"lblTiket"_qs)), lblTip(Okno.Pojmenuj(new QLabel(this), u"lblTip"_qs)),
+      fraTypyRozpisu(Okno.Pojmenuj(new QGroupBox(this), u"fraTypyRozpisu"_qs)),
+      lstSportka(Okno.Pojmenuj(new QListWidget(this), u"lstSportka"_qs)),
+      chkSpojvatRozpisy(Okno.Pojmenuj(new QCheckBox(this), u"chkSpojvatRozpisy"_qs)),
+      Command1(Okno.Pojmenuj(new QPushButton(this), u"Command1"_qs)),
+      cmdUvolnit_Seznam_Sazejicich(Okno.Pojmenuj(new QPushButton(this), u"cmdUvolnit_Seznam_Sazejicich"_qs)),
+      cmdOK(Okno.Pojmenuj(new QPushButton(this), u"cmdOK"_qs)), cmdZrusit(Okno.Pojmenuj(new QPushButton(this), u"cmdZrusit"_qs)),
       Ram(ram), Sezeni(ram.Sezeni()) {
-    setObjectName(Okno);
-    setWindowTitle(Tabulka_Textu::Programu().Text(Okno));
+    setObjectName(Okno.Jmeno);
+    setWindowTitle(Tabulka_Textu::Programu().Text(Okno.Jmeno));
     Sezeni.Formular_Otevren_Generuj = true;
     Sezeni.Random.Dolni_Mez = 1;
     Sezeni.Random.Horni_Mez = 49;
@@ -88,7 +80,7 @@ frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
     if (stav.Seminko_Behu)
         txtSeminko->setText(QString::number(*stav.Seminko_Behu));
     txtVlastni_Seminko->setMaxLength(20);
-    txtVlastni_Seminko->setPlaceholderText(Text(u"txtVlastni_Seminko.Placeholder"_qs));
+    txtVlastni_Seminko->setPlaceholderText(Okno.Text(u"txtVlastni_Seminko.Placeholder"_qs));
     for (QLineEdit* pole : {txtPoc_Tipu, txtPoc_Tiketu, txtVlastni_Seminko}) {
         modNastaveni_Ovladani::Jen_Cislice(pole);
         modNastaveni_Ovladani::Vybirej_Pri_Vstupu(pole);
@@ -177,19 +169,19 @@ frmGeneruj::~frmGeneruj() {
 
 QLayout* frmGeneruj::Rozvrh_Poctu() {
     auto* pocty = new QFormLayout;
-    pocty->addRow(Text(u"lblPoc_Tipu"_qs), txtPoc_Tipu);
-    pocty->addRow(Text(u"lblPoc_Tiketu"_qs), txtPoc_Tiketu);
-    pocty->addRow(Text(u"lblVklad_Popis"_qs), lblVklad);
+    pocty->addRow(Okno.Text(u"lblPoc_Tipu"_qs), txtPoc_Tipu);
+    pocty->addRow(Okno.Text(u"lblPoc_Tiketu"_qs), txtPoc_Tiketu);
+    pocty->addRow(Okno.Text(u"lblVklad_Popis"_qs), lblVklad);
     pocty->addRow(chkSance);
-    pocty->addRow(Text(u"lblSeminko"_qs), txtSeminko);
+    pocty->addRow(Okno.Text(u"lblSeminko"_qs), txtSeminko);
     pocty->addRow(QString(), txtVlastni_Seminko);
     for (QLineEdit* pole : {txtPoc_Tipu, txtPoc_Tiketu, txtSeminko, txtVlastni_Seminko})
         pole->setMaximumWidth(fontMetrics().horizontalAdvance(u"18446744073709551615"_qs) + 12);
 
-    auto* prubeh = Pojmenuj(new QGroupBox(this), u"fraPrubeh"_qs);
+    auto* prubeh = Okno.Pojmenuj(new QGroupBox(this), u"fraPrubeh"_qs);
     auto* radky = new QFormLayout(prubeh);
-    radky->addRow(Text(u"lblTiket_Popis"_qs), lblTiket);
-    radky->addRow(Text(u"lblTip_Popis"_qs), lblTip);
+    radky->addRow(Okno.Text(u"lblTiket_Popis"_qs), lblTiket);
+    radky->addRow(Okno.Text(u"lblTip_Popis"_qs), lblTip);
 
     auto* vlevo = new QVBoxLayout;
     vlevo->addLayout(pocty);
@@ -273,7 +265,7 @@ void frmGeneruj::Nastav_Rozpis(int cislo) {
     if (Sezeni.Pocet_Sazejicich == 0)
         Zamkni_Pocty(false);
     Command1->setEnabled(cislo != 0);
-    setWindowTitle(Tabulka_Textu::Programu().Text(Okno));
+    setWindowTitle(Tabulka_Textu::Programu().Text(Okno.Jmeno));
 }
 
 void frmGeneruj::Zamkni_Pocty(bool zamknout) {
@@ -346,7 +338,7 @@ void frmGeneruj::Generuj() {
 
     Beh_Bezi = true;
     cmdOK->setEnabled(false);
-    cmdZrusit->setText(Text(u"cmdZrusit.Konec"_qs));
+    cmdZrusit->setText(Okno.Text(u"cmdZrusit.Konec"_qs));
     Omezeni->Zamkni_Pro_Beh(true);
     Sezeni.Tikety.Zrusit_Beh = false;
     Vysledek_Generatoru vysledek;
@@ -366,7 +358,7 @@ void frmGeneruj::Generuj() {
     Omezeni->Zamkni_Pro_Beh(false);
     Omezeni->Po_Behu(vysledek.Max_Tretich_Cen);
     cmdOK->setEnabled(true);
-    cmdZrusit->setText(Text(u"cmdZrusit"_qs));
+    cmdZrusit->setText(Okno.Text(u"cmdZrusit"_qs));
     stav.Pocet_Tipu_Hotovo = vysledek.Pocet_Tipu_Hotovo;
     stav.Seminko_Behu = vysledek.Seminko;
     txtSeminko->setText(QString::number(vysledek.Seminko));
@@ -402,7 +394,7 @@ void frmGeneruj::cmdZrusit_Click() {
     Sezeni.Tikety.Zrusit_Beh = true;
     Sezeni.Sluzby->Nastav_Status(QString(), QString());
     if (Beh_Bezi) {
-        cmdZrusit->setText(Text(u"cmdZrusit"_qs));
+        cmdZrusit->setText(Okno.Text(u"cmdZrusit"_qs));
         cmdOK->setEnabled(true);
         return;
     }

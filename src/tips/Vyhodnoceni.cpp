@@ -222,11 +222,9 @@ void Vyh_Cisla_V_Tazich(const Radek_Tahu& tah1, const Radek_Tahu& tah2, bool rad
     int poradi = 0;
     for (const Radek_Tahu* radek : radky) {
         for (int tah = 1; tah <= 2; ++tah) {
-            const std::vector<Tah>& tahy = *(tah == 1 ? rozsah.Tahy_1 : rozsah.Tahy_2);
-            const int pocet = tah == 1 ? rozsah.Pocet_Tahy_1 : rozsah.Pocet_Tahy_2;
-            const int n = tah == 1 ? rozsah.N1 : rozsah.N2;
-            Vyhry& vyhry = tah == 1 ? vysledek.Vyhry_1Tah : vysledek.Vyhry_2Tah;
-            for (int d = pocet - n + 1; d <= pocet; ++d) {
+            const std::vector<Tah>& tahy = rozsah.Tahy(tah);
+            Vyhry& vyhry = vysledek.Vyhry_Tahu(tah);
+            for (int d = rozsah.Od(tah); d <= rozsah.Do(tah); ++d) {
                 int h = 0;
                 int s = 0;
                 Radek_Proti_Tahu(*radek, tahy[std::size_t(d)], h, s);
@@ -249,11 +247,9 @@ void Vyh_Soubor_V_Tazich(const Zaznam_Tipu& tipy, const Rozsah_Tahu& rozsah, Vys
     Kroky kroky(prubeh, int64_t(rozsah.N1) + rozsah.N2);
     int poradi = 0;
     for (int tah = 1; tah <= 2; ++tah) {
-        const std::vector<Tah>& tahy = *(tah == 1 ? rozsah.Tahy_1 : rozsah.Tahy_2);
-        const int pocet = tah == 1 ? rozsah.Pocet_Tahy_1 : rozsah.Pocet_Tahy_2;
-        const int n = tah == 1 ? rozsah.N1 : rozsah.N2;
-        Vyhry& vyhry = tah == 1 ? vysledek.Vyhry_1Tah : vysledek.Vyhry_2Tah;
-        for (int d = pocet - n + 1; d <= pocet; ++d) {
+        const std::vector<Tah>& tahy = rozsah.Tahy(tah);
+        Vyhry& vyhry = vysledek.Vyhry_Tahu(tah);
+        for (int d = rozsah.Od(tah); d <= rozsah.Do(tah); ++d) {
             const Tah& tah_d = tahy[std::size_t(d)];
             const uint64_t hlavni = Maska_Tahu(tah_d);
             const uint8_t dodatkove = tah_d[7];
@@ -291,11 +287,9 @@ void Vyh_Soubor_V_Tazich_Prosty(const Zaznam_Tipu& tipy, const Rozsah_Tahu& rozs
     vysledek.Vyherni_Zaznamy.clear();
     int poradi = 0;
     for (int tah = 1; tah <= 2; ++tah) {
-        const std::vector<Tah>& tahy = *(tah == 1 ? rozsah.Tahy_1 : rozsah.Tahy_2);
-        const int pocet = tah == 1 ? rozsah.Pocet_Tahy_1 : rozsah.Pocet_Tahy_2;
-        const int n = tah == 1 ? rozsah.N1 : rozsah.N2;
-        Vyhry& vyhry = tah == 1 ? vysledek.Vyhry_1Tah : vysledek.Vyhry_2Tah;
-        for (int d = pocet - n + 1; d <= pocet; ++d) {
+        const std::vector<Tah>& tahy = rozsah.Tahy(tah);
+        Vyhry& vyhry = vysledek.Vyhry_Tahu(tah);
+        for (int d = rozsah.Od(tah); d <= rozsah.Do(tah); ++d) {
             bool dalsi_tah = false;
             for (int i = 1; i <= tipy.Pocet_Tiketu && !dalsi_tah; ++i) {
                 for (int c = 1; c <= Sloupcu_Tiketu; ++c) {

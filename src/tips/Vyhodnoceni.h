@@ -49,6 +49,7 @@ struct Vysledek_Vyhodnoceni {
     // Vycisti_Vyhry.
     void Vycisti();
     int64_t Pocet_Vyhernich_Zaznamu() const { return int64_t(Vyherni_Zaznamy.size()); }
+    Vyhry& Vyhry_Tahu(int tah) { return tah == 1 ? Vyhry_1Tah : Vyhry_2Tah; }
 };
 
 // Places h hits and s supplementary hits in a tier and counts it in `vyhry`: 3 → 5, 4 → 4, 5 with
@@ -92,6 +93,11 @@ struct Rozsah_Tahu {
     int Pocet_Tahy_2 = 0;
     int N1 = 0;
     int N2 = 0;
+
+    // The draws of list `tah` (1 or 2) that the range takes are Tahy(tah)[Od(tah) .. Do(tah)].
+    const std::vector<Tah>& Tahy(int tah) const { return *(tah == 1 ? Tahy_1 : Tahy_2); }
+    int Do(int tah) const { return tah == 1 ? Pocet_Tahy_1 : Pocet_Tahy_2; }
+    int Od(int tah) const { return Do(tah) - (tah == 1 ? N1 : N2) + 1; }
 };
 Rozsah_Tahu Rozsah_Archivu(const Archiv_Tahu& archiv, int n1, int n2);
 

@@ -51,13 +51,7 @@ const QColor Cervena(255, 0, 0);
 const QColor Zelena(0, 255, 0);
 const QColor Seda(0xC0, 0xC0, 0xC0);
 
-QString Text(const QString& klic) {
-    return Tabulka_Textu::Programu().Text(u"frmVypisTipu."_qs + klic);
-}
-
-template <class T> T* Prvek(T* prvek, const QString& jmeno) {
-    return modNastaveni_Ovladani::Prvek(prvek, u"frmVypisTipu"_qs, jmeno);
-}
+const modNastaveni_Ovladani::Texty_Okna Okno{u"frmVypisTipu"_qs};
 
 // The numbers of a tip line of the list; tokens that are no numbers above 0 are skipped.
 QList<int> Cisla_Radku(const QString& radek) {
@@ -71,19 +65,19 @@ QList<int> Cisla_Radku(const QString& radek) {
 } // namespace
 
 frmVypisTipu::frmVypisTipu(frmMDITombi& ram, bool vlastni, QWidget* parent)
-    : QWidget(parent), List1(Prvek(new QListWidget(this), u"List1"_qs)), List2(Prvek(new QListWidget(this), u"List2"_qs)),
-      lstFIX(Prvek(new QListWidget(this), u"lstFIX"_qs)),
-      picSloupec_Vypis_Tipu(Prvek(new frmSloupec_Tiketu(ram.Sezeni().Nastaveni, this), u"picSloupec_Vypis_Tipu"_qs)),
-      txtSoubor_Tipu(Prvek(new QLineEdit(this), u"txtSoubor_Tipu"_qs)), Label9(Prvek(new QLabel(this), u"Label9"_qs)),
-      cmdUlozTipy(Prvek(new QPushButton(this), u"cmdUlozTipy"_qs)),
-      cmdPridej_Tipy(Prvek(new QPushButton(this), u"cmdPridej_Tipy"_qs)),
-      cmdPouzita_Cisla(Prvek(new QPushButton(this), u"cmdPouzita_Cisla"_qs)),
-      cmdZrusTip(Prvek(new QPushButton(this), u"cmdZrusTip"_qs)), cmdZpet(Prvek(new QPushButton(this), u"cmdZpet"_qs)),
-      txtOldCislo(Prvek(new QLineEdit(this), u"txtOldCislo"_qs)),
-      txtNewCislo(Prvek(new QLineEdit(this), u"txtNewCislo"_qs)),
-      cmdCisla_Tiketu(Prvek(new QPushButton(this), u"cmdCisla_Tiketu"_qs)),
-      cmdOpakovatGener(Prvek(new QPushButton(this), u"cmdOpakovatGener"_qs)),
-      cmdZrusit(Prvek(new QPushButton(this), u"cmdZrusit"_qs)), lblPocetRadek(Prvek(new QLabel(this), u"lblPocetRadek"_qs)),
+    : QWidget(parent), List1(Okno.Pojmenuj(new QListWidget(this), u"List1"_qs)), List2(Okno.Pojmenuj(new QListWidget(this), u"List2"_qs)),
+      lstFIX(Okno.Pojmenuj(new QListWidget(this), u"lstFIX"_qs)),
+      picSloupec_Vypis_Tipu(Okno.Pojmenuj(new frmSloupec_Tiketu(ram.Sezeni().Nastaveni, this), u"picSloupec_Vypis_Tipu"_qs)),
+      txtSoubor_Tipu(Okno.Pojmenuj(new QLineEdit(this), u"txtSoubor_Tipu"_qs)), Label9(Okno.Pojmenuj(new QLabel(this), u"Label9"_qs)),
+      cmdUlozTipy(Okno.Pojmenuj(new QPushButton(this), u"cmdUlozTipy"_qs)),
+      cmdPridej_Tipy(Okno.Pojmenuj(new QPushButton(this), u"cmdPridej_Tipy"_qs)),
+      cmdPouzita_Cisla(Okno.Pojmenuj(new QPushButton(this), u"cmdPouzita_Cisla"_qs)),
+      cmdZrusTip(Okno.Pojmenuj(new QPushButton(this), u"cmdZrusTip"_qs)), cmdZpet(Okno.Pojmenuj(new QPushButton(this), u"cmdZpet"_qs)),
+      txtOldCislo(Okno.Pojmenuj(new QLineEdit(this), u"txtOldCislo"_qs)),
+      txtNewCislo(Okno.Pojmenuj(new QLineEdit(this), u"txtNewCislo"_qs)),
+      cmdCisla_Tiketu(Okno.Pojmenuj(new QPushButton(this), u"cmdCisla_Tiketu"_qs)),
+      cmdOpakovatGener(Okno.Pojmenuj(new QPushButton(this), u"cmdOpakovatGener"_qs)),
+      cmdZrusit(Okno.Pojmenuj(new QPushButton(this), u"cmdZrusit"_qs)), lblPocetRadek(Okno.Pojmenuj(new QLabel(this), u"lblPocetRadek"_qs)),
       Picture1(new QStackedWidget(this)), Analyza(new frmVypisTipu_Analyza(ram.Sezeni(), Picture1)),
       Vyber(new frmVypisTipu_Vyber(ram.Sezeni(), Picture1)), Vyhodnoceni(nullptr), Vyhry(nullptr), Seznamy(new QStackedLayout), Ram(ram),
       Sezeni(ram.Sezeni()) {
@@ -100,7 +94,7 @@ frmVypisTipu::frmVypisTipu(frmMDITombi& ram, bool vlastni, QWidget* parent)
                            List1->verticalScrollBar()->sizeHint().width() + 4 * List1->frameWidth());
     for (QPushButton* tlacitko : {cmdPouzita_Cisla, cmdPridej_Tipy, cmdZrusTip})
         tlacitko->setMaximumWidth(picSloupec_Vypis_Tipu->sizeHint().width());
-    lstFIX->addItems({QString(), Text(u"lstFIX"_qs)});
+    lstFIX->addItems({QString(), Okno.Text(u"lstFIX"_qs)});
     lstFIX->setEnabled(false);
     List2->addItems({u"Analýza on line"_qs, u"Výběr tipů"_qs, u"Vyhodnotit!"_qs});
     List2->setMaximumHeight(List2->sizeHintForRow(0) * 3 + 2 * List2->frameWidth() + 4);
@@ -111,7 +105,7 @@ frmVypisTipu::frmVypisTipu(frmMDITombi& ram, bool vlastni, QWidget* parent)
     connect(Vyber, &frmVypisTipu_Vyber::Zmena_Vyberu, this, [this] { Zmena_Vyberu = true; });
     Label9->setCursor(Qt::PointingHandCursor);
     Label9->installEventFilter(this);
-    auto* lblCisla = new QLabel(Text(u"lblCisla_Tiketu"_qs), this);
+    auto* lblCisla = new QLabel(Okno.Text(u"lblCisla_Tiketu"_qs), this);
     for (QLineEdit* cislo : {txtOldCislo, txtNewCislo})
         cislo->setMaxLength(10);
 
@@ -447,7 +441,7 @@ void frmVypisTipu::Obarvi_Zapis(const QColor& barva, bool povolit) {
 }
 
 void frmVypisTipu::Zrus_Zapis() {
-    cmdPouzita_Cisla->setText(Text(u"cmdPouzita_Cisla"_qs));
+    cmdPouzita_Cisla->setText(Okno.Text(u"cmdPouzita_Cisla"_qs));
     Obarvi_Zapis(Seda, true);
     Vlastni_Tipy = false;
 }
@@ -455,7 +449,7 @@ void frmVypisTipu::Zrus_Zapis() {
 void frmVypisTipu::cmdPridej_Tipy_Click() {
     if (Vlastni_Tipy)
         return;
-    cmdPouzita_Cisla->setText(Text(u"cmdPouzita_Cisla.Zapis"_qs));
+    cmdPouzita_Cisla->setText(Okno.Text(u"cmdPouzita_Cisla.Zapis"_qs));
     Obarvi_Zapis(Cervena, true);
     picSloupec_Vypis_Tipu->Vycisti();
     Vlastni_Tipy = true;

@@ -18,18 +18,10 @@ using modNastaveni_Ovladani::Prvek;
 
 namespace {
 
-const QString Okno = u"frmVypisTipu"_qs;
-
-QString Text(const QString& klic) {
-    return Tabulka_Textu::Programu().Text(Okno + u'.' + klic);
-}
-
-template <class T> T* Pojmenuj(T* prvek, const QString& jmeno) {
-    return Prvek(prvek, Okno, jmeno);
-}
+const modNastaveni_Ovladani::Texty_Okna Okno{u"frmVypisTipu"_qs};
 
 QLabel* Hodnota(QWidget* rodic, const QString& jmeno) {
-    auto* popisek = Pojmenuj(new QLabel(rodic), jmeno);
+    auto* popisek = Okno.Pojmenuj(new QLabel(rodic), jmeno);
     popisek->setAutoFillBackground(true);
     popisek->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     popisek->setBackgroundRole(QPalette::Window);
@@ -66,21 +58,21 @@ QWidget* Pod_Slovy(QWidget* rodic, const QLabel* nadpis, const QStringList& slov
 } // namespace
 
 frmVypisTipu_Analyza::frmVypisTipu_Analyza(Relace& sezeni, QWidget* parent)
-    : QWidget(parent), fraAnalyza_On_Line(Pojmenuj(new QGroupBox(this), u"fraAnalyza_On_Line"_qs)),
-      Label11(Pojmenuj(new QLabel(this), u"Label11"_qs)), lblShoda(Hodnota(this, u"lblShoda"_qs)),
-      Label15(Pojmenuj(new QLabel(this), u"Label15"_qs)), Label19(Pojmenuj(new QLabel(this), u"Label19"_qs)),
-      Label21(Pojmenuj(new QLabel(this), u"Label21"_qs)), Frame7(Pojmenuj(new QGroupBox(this), u"Frame7"_qs)),
-      Label17(Pojmenuj(new QLabel(this), u"Label17"_qs)), Label18(Pojmenuj(new QLabel(this), u"Label18"_qs)),
-      Label14(Pojmenuj(new QLabel(this), u"Label14"_qs)), lblCelkem_Los_1Tah(Hodnota(this, u"lblCelkem_Los_1Tah"_qs)),
+    : QWidget(parent), fraAnalyza_On_Line(Okno.Pojmenuj(new QGroupBox(this), u"fraAnalyza_On_Line"_qs)),
+      Label11(Okno.Pojmenuj(new QLabel(this), u"Label11"_qs)), lblShoda(Hodnota(this, u"lblShoda"_qs)),
+      Label15(Okno.Pojmenuj(new QLabel(this), u"Label15"_qs)), Label19(Okno.Pojmenuj(new QLabel(this), u"Label19"_qs)),
+      Label21(Okno.Pojmenuj(new QLabel(this), u"Label21"_qs)), Frame7(Okno.Pojmenuj(new QGroupBox(this), u"Frame7"_qs)),
+      Label17(Okno.Pojmenuj(new QLabel(this), u"Label17"_qs)), Label18(Okno.Pojmenuj(new QLabel(this), u"Label18"_qs)),
+      Label14(Okno.Pojmenuj(new QLabel(this), u"Label14"_qs)), lblCelkem_Los_1Tah(Hodnota(this, u"lblCelkem_Los_1Tah"_qs)),
       lblCelkem_Los_2Tah(Hodnota(this, u"lblCelkem_Los_2Tah"_qs)),
       lblNaposled_1tah(Hodnota(this, u"lblNaposled_1tah"_qs)), lblNaposled_2tah(Hodnota(this, u"lblNaposled_2tah"_qs)),
-      cmdOK(Pojmenuj(new QPushButton(this), u"cmdOK(2)"_qs)), Sezeni(sezeni) {
+      cmdOK(Okno.Pojmenuj(new QPushButton(this), u"cmdOK(2)"_qs)), Sezeni(sezeni) {
     setObjectName(u"Picture1(0)"_qs);
     for (int i = 0; i < 4; ++i)
         lblCena[std::size_t(i)] = Hodnota(this, u"lblCena("_qs + QString::number(i) + u')');
-    fraAnalyza_On_Line->setTitle(Text(u"fraAnalyza_On_Line"_qs));
-    Frame7->setTitle(Text(u"Frame7"_qs) + QString::number(int(Vb::Val(Sezeni.Nastaveni.Pocet_Tahu_Analyzovat))) +
-                     Text(u"Frame7.Konec"_qs));
+    fraAnalyza_On_Line->setTitle(Okno.Text(u"fraAnalyza_On_Line"_qs));
+    Frame7->setTitle(Okno.Text(u"Frame7"_qs) + QString::number(int(Vb::Val(Sezeni.Nastaveni.Pocet_Tahu_Analyzovat))) +
+                     Okno.Text(u"Frame7.Konec"_qs));
 
     // The tips: the clicked number, then the matches with the tip so far by tier.
     auto* tipy = new QGridLayout(fraAnalyza_On_Line);

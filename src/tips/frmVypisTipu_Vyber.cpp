@@ -25,19 +25,11 @@ using namespace modAnalyza_Tipu;
 
 namespace {
 
-const QString Okno = u"frmVypisTipu"_qs;
+const modNastaveni_Ovladani::Texty_Okna Okno{u"frmVypisTipu"_qs};
 constexpr int32_t Barva_Znacky = 255; // red
 
-QString Text(const QString& klic) {
-    return Tabulka_Textu::Programu().Text(Okno + u'.' + klic);
-}
-
-template <class T> T* Pojmenuj(T* prvek, const QString& jmeno) {
-    return Prvek(prvek, Okno, jmeno);
-}
-
 QLabel* Pocet(QWidget* rodic, const QString& jmeno) {
-    auto* popisek = Pojmenuj(new QLabel(rodic), jmeno);
+    auto* popisek = Okno.Pojmenuj(new QLabel(rodic), jmeno);
     popisek->setAutoFillBackground(true);
     popisek->setAlignment(Qt::AlignCenter);
     return popisek;
@@ -86,27 +78,27 @@ QHBoxLayout* Vedle(QWidget* a, QWidget* b) {
 } // namespace
 
 frmVypisTipu_Vyber::frmVypisTipu_Vyber(Relace& sezeni, QWidget* parent)
-    : QWidget(parent), fraVyber_Tipu(Pojmenuj(new QGroupBox(this), u"fraVyber_Tipu"_qs)),
-      Label25(Pojmenuj(new QLabel(this), u"Label25"_qs)),
-      fraSousedni_Cisla(Pojmenuj(new QGroupBox(this), u"fraSousedni_Cisla"_qs)),
-      Label26(Pojmenuj(new QLabel(this), u"Label26"_qs)), Label24(Pojmenuj(new QLabel(this), u"Label24"_qs)),
-      Label10(Pojmenuj(new QLabel(this), u"Label10"_qs)), Label16(Pojmenuj(new QLabel(this), u"Label16"_qs)),
-      chkVyloucit_Pary(Pojmenuj(new QCheckBox(this), u"chkVyloucit_Pary"_qs)),
-      lblCisla_Pary(Pojmenuj(new QLabel(this), u"lblCisla_Pary"_qs)),
-      chkPonechat_MaxCis_Ve_Sloupci(Pojmenuj(new QCheckBox(this), u"chkPonechat_MaxCis_Ve_Sloupci"_qs)),
-      txtMax_Ve_Sloupci(Pojmenuj(new QLineEdit(this), u"txtMax_Ve_Sloupci"_qs)),
-      chkCislo_V_Tipu(Pojmenuj(new QCheckBox(this), u"chkCislo_V_Tipu"_qs)),
-      txtCislo_V_Tipu(Pojmenuj(new QLineEdit(this), u"txtCislo_V_Tipu"_qs)),
-      Label4(Pojmenuj(new QLabel(this), u"Label4"_qs)), lblSude(Pojmenuj(new QLabel(this), u"lblSude"_qs)),
-      lblLiche(Pojmenuj(new QLabel(this), u"lblLiche"_qs)), cmdOK(Pojmenuj(new QPushButton(this), u"cmdOK(1)"_qs)),
+    : QWidget(parent), fraVyber_Tipu(Okno.Pojmenuj(new QGroupBox(this), u"fraVyber_Tipu"_qs)),
+      Label25(Okno.Pojmenuj(new QLabel(this), u"Label25"_qs)),
+      fraSousedni_Cisla(Okno.Pojmenuj(new QGroupBox(this), u"fraSousedni_Cisla"_qs)),
+      Label26(Okno.Pojmenuj(new QLabel(this), u"Label26"_qs)), Label24(Okno.Pojmenuj(new QLabel(this), u"Label24"_qs)),
+      Label10(Okno.Pojmenuj(new QLabel(this), u"Label10"_qs)), Label16(Okno.Pojmenuj(new QLabel(this), u"Label16"_qs)),
+      chkVyloucit_Pary(Okno.Pojmenuj(new QCheckBox(this), u"chkVyloucit_Pary"_qs)),
+      lblCisla_Pary(Okno.Pojmenuj(new QLabel(this), u"lblCisla_Pary"_qs)),
+      chkPonechat_MaxCis_Ve_Sloupci(Okno.Pojmenuj(new QCheckBox(this), u"chkPonechat_MaxCis_Ve_Sloupci"_qs)),
+      txtMax_Ve_Sloupci(Okno.Pojmenuj(new QLineEdit(this), u"txtMax_Ve_Sloupci"_qs)),
+      chkCislo_V_Tipu(Okno.Pojmenuj(new QCheckBox(this), u"chkCislo_V_Tipu"_qs)),
+      txtCislo_V_Tipu(Okno.Pojmenuj(new QLineEdit(this), u"txtCislo_V_Tipu"_qs)),
+      Label4(Okno.Pojmenuj(new QLabel(this), u"Label4"_qs)), lblSude(Okno.Pojmenuj(new QLabel(this), u"lblSude"_qs)),
+      lblLiche(Okno.Pojmenuj(new QLabel(this), u"lblLiche"_qs)), cmdOK(Okno.Pojmenuj(new QPushButton(this), u"cmdOK(1)"_qs)),
       Sezeni(sezeni) {
     setObjectName(u"Picture1(1)"_qs);
     for (int i = 0; i < 7; ++i)
         lblPomer_SL[std::size_t(i)] = Pocet(this, Indexem(u"lblPomer_SL"_qs, i));
     for (int i = 0; i < 8; ++i)
         lblSousedni_Cisla[std::size_t(i)] = Pocet(this, Indexem(u"lblSousedni_Cisla"_qs, i));
-    fraVyber_Tipu->setTitle(Text(u"fraVyber_Tipu"_qs));
-    fraSousedni_Cisla->setTitle(Text(u"fraSousedni_Cisla"_qs));
+    fraVyber_Tipu->setTitle(Okno.Text(u"fraVyber_Tipu"_qs));
+    fraSousedni_Cisla->setTitle(Okno.Text(u"fraSousedni_Cisla"_qs));
     lblCisla_Pary->setMinimumWidth(fontMetrics().horizontalAdvance(u"0 000"_qs) + 4);
     const int sirka_pole = fontMetrics().horizontalAdvance(u"000"_qs) + 12;
     txtMax_Ve_Sloupci->setMaxLength(1);

@@ -30,30 +30,22 @@ using modNastaveni_Ovladani::Cele_Cislo;
 
 namespace {
 
-const QString Okno = u"frmVypisTipu"_qs;
+const modNastaveni_Ovladani::Texty_Okna Okno{u"frmVypisTipu"_qs};
 constexpr int32_t Barva_Vedle = 0xFFFF00; // near miss, blue-green-red
 constexpr int32_t Barva_Zmeny = 255;      // red
 constexpr int Souboru_Srovnani = 100;     // random files of the comparison with chance
 
-QString Text(const QString& klic) {
-    return Tabulka_Textu::Programu().Text(Okno + u'.' + klic);
-}
-
-template <class T> T* Pojmenuj(T* prvek, const QString& jmeno) {
-    return Prvek(prvek, Okno, jmeno);
-}
-
 } // namespace
 
 frmVypisTipu_Vyhodnoceni::frmVypisTipu_Vyhodnoceni(Relace& sezeni, frmVypisTipu_Vyhry& vyhry, QWidget* parent)
-    : QWidget(parent), Frame2(Pojmenuj(new QGroupBox(this), u"Frame2"_qs)), Label5(Pojmenuj(new QLabel(this), u"Label5"_qs)),
-      Label6(Pojmenuj(new QLabel(this), u"Label6"_qs)), Label7(Pojmenuj(new QLabel(this), u"Label7"_qs)),
-      Check1(Pojmenuj(new QCheckBox(this), u"Check1"_qs)), txtPocet_1Tahu(Pojmenuj(new QLineEdit(this), u"txtPocet_1Tahu"_qs)),
-      txtPocet_2Tahu(Pojmenuj(new QLineEdit(this), u"txtPocet_2Tahu"_qs)),
-      scrPocet_1Tahu(Pojmenuj(new QScrollBar(Qt::Horizontal, this), u"scrPocet_1Tahu"_qs)),
-      scrPocet_2Tahu(Pojmenuj(new QScrollBar(Qt::Horizontal, this), u"scrPocet_2Tahu"_qs)),
-      cmdGeneruji_Tip(Pojmenuj(new QPushButton(this), u"cmdGeneruji_Tip"_qs)),
-      cmdOK(Pojmenuj(new QPushButton(this), u"cmdOK(0)"_qs)), cmdSrovnani(Pojmenuj(new QPushButton(this), u"cmdSrovnani"_qs)),
+    : QWidget(parent), Frame2(Okno.Pojmenuj(new QGroupBox(this), u"Frame2"_qs)), Label5(Okno.Pojmenuj(new QLabel(this), u"Label5"_qs)),
+      Label6(Okno.Pojmenuj(new QLabel(this), u"Label6"_qs)), Label7(Okno.Pojmenuj(new QLabel(this), u"Label7"_qs)),
+      Check1(Okno.Pojmenuj(new QCheckBox(this), u"Check1"_qs)), txtPocet_1Tahu(Okno.Pojmenuj(new QLineEdit(this), u"txtPocet_1Tahu"_qs)),
+      txtPocet_2Tahu(Okno.Pojmenuj(new QLineEdit(this), u"txtPocet_2Tahu"_qs)),
+      scrPocet_1Tahu(Okno.Pojmenuj(new QScrollBar(Qt::Horizontal, this), u"scrPocet_1Tahu"_qs)),
+      scrPocet_2Tahu(Okno.Pojmenuj(new QScrollBar(Qt::Horizontal, this), u"scrPocet_2Tahu"_qs)),
+      cmdGeneruji_Tip(Okno.Pojmenuj(new QPushButton(this), u"cmdGeneruji_Tip"_qs)),
+      cmdOK(Okno.Pojmenuj(new QPushButton(this), u"cmdOK(0)"_qs)), cmdSrovnani(Okno.Pojmenuj(new QPushButton(this), u"cmdSrovnani"_qs)),
       Sezeni(sezeni), Vyhry(vyhry) {
     setObjectName(u"Picture1(2)"_qs);
     auto* rozlozeni = new QVBoxLayout(this);
@@ -78,7 +70,7 @@ frmVypisTipu_Vyhodnoceni::frmVypisTipu_Vyhodnoceni(Relace& sezeni, frmVypisTipu_
     // The load: the kinds reset, the kept numbers back, the whole archive as the range.
     Sezeni.Random.Dolni_Mez = 1;
     Sezeni.Random.Horni_Mez = 49;
-    Frame2->setTitle(Text(u"Frame2"_qs));
+    Frame2->setTitle(Okno.Text(u"Frame2"_qs));
     Obnov_Cisla_Tahu();
     const Archiv_Tahu& archiv = Sezeni.Archiv;
     scrPocet_1Tahu->setRange(1, std::max(1, archiv.Pocet_Tahy_1));
@@ -102,11 +94,11 @@ QWidget* frmVypisTipu_Vyhodnoceni::Druhy() {
     auto* mrizka = new QGridLayout(ramec);
     mrizka->setContentsMargins(0, 0, 0, 0);
     mrizka->setVerticalSpacing(0);
-    mrizka->addWidget(new QLabel(Text(u"lblV_Tipech"_qs), ramec), 0, 0);
-    mrizka->addWidget(new QLabel(Text(u"lblV_Tazich"_qs), ramec), 0, 1);
+    mrizka->addWidget(new QLabel(Okno.Text(u"lblV_Tipech"_qs), ramec), 0, 0);
+    mrizka->addWidget(new QLabel(Okno.Text(u"lblV_Tazich"_qs), ramec), 0, 1);
     const std::pair<int, int> mista[] = {{1, 0}, {1, 1}, {2, 1}, {2, 0}};
     for (int i = 0; i < 4; ++i) {
-        Typ_Vyhodnoceni[std::size_t(i)] = Pojmenuj(new QRadioButton(ramec), Indexem(u"Typ_Vyhodnoceni"_qs, i));
+        Typ_Vyhodnoceni[std::size_t(i)] = Okno.Pojmenuj(new QRadioButton(ramec), Indexem(u"Typ_Vyhodnoceni"_qs, i));
         mrizka->addWidget(Typ_Vyhodnoceni[std::size_t(i)], mista[i].first, mista[i].second);
         connect(Typ_Vyhodnoceni[std::size_t(i)], &QRadioButton::clicked, this, [this, i] { Typ_Click(i); });
     }
@@ -119,10 +111,10 @@ QWidget* frmVypisTipu_Vyhodnoceni::Boxy() {
     const int sirka = fontMetrics().horizontalAdvance(u"000"_qs) + 8;
     for (int tah = 1; tah <= 2; ++tah) {
         const int r = (tah - 1) * 2;
-        lblTahCislo[std::size_t(tah - 1)] = Pojmenuj(new QLabel(Frame2), Indexem(u"lblTahCislo"_qs, tah - 1));
+        lblTahCislo[std::size_t(tah - 1)] = Okno.Pojmenuj(new QLabel(Frame2), Indexem(u"lblTahCislo"_qs, tah - 1));
         mrizka->addWidget(lblTahCislo[std::size_t(tah - 1)], r, 0, 1, 7);
         for (int i = 0; i < 7; ++i) {
-            auto* box = Pojmenuj(new QLineEdit(Frame2), Indexem(tah == 1 ? u"Tah1"_qs : u"Tah2"_qs, i));
+            auto* box = Okno.Pojmenuj(new QLineEdit(Frame2), Indexem(tah == 1 ? u"Tah1"_qs : u"Tah2"_qs, i));
             (tah == 1 ? Tah1 : Tah2)[std::size_t(i)] = box;
             box->setMaxLength(2);
             box->setMaximumWidth(sirka);
@@ -133,7 +125,7 @@ QWidget* frmVypisTipu_Vyhodnoceni::Boxy() {
             connect(box, &QLineEdit::textEdited, this, [this, tah, i] { Box_Zmenen(tah, i); });
             mrizka->addWidget(box, r + 1, i);
         }
-        auto* smaz = Pojmenuj(new QPushButton(Frame2), Indexem(u"cmdClear_Tazena_Cisla"_qs, tah - 1));
+        auto* smaz = Okno.Pojmenuj(new QPushButton(Frame2), Indexem(u"cmdClear_Tazena_Cisla"_qs, tah - 1));
         cmdClear_Tazena_Cisla[std::size_t(tah - 1)] = smaz;
         smaz->setMaximumWidth(sirka + 8);
         connect(smaz, &QPushButton::clicked, this, [this, tah] {
@@ -156,13 +148,13 @@ QWidget* frmVypisTipu_Vyhodnoceni::Boxy() {
 }
 
 QWidget* frmVypisTipu_Vyhodnoceni::Pocty_Tahu() {
-    auto* ramec = Pojmenuj(new QGroupBox(this), u"fraPocet_Tahu"_qs);
+    auto* ramec = Okno.Pojmenuj(new QGroupBox(this), u"fraPocet_Tahu"_qs);
     auto* mrizka = new QGridLayout(ramec);
     mrizka->addWidget(Check1, 0, 0, 1, 3);
     for (int tah = 1; tah <= 2; ++tah) {
         QLineEdit* pole = tah == 1 ? txtPocet_1Tahu : txtPocet_2Tahu;
         QScrollBar* posuvnik = tah == 1 ? scrPocet_1Tahu : scrPocet_2Tahu;
-        chkTah[std::size_t(tah - 1)] = Pojmenuj(new QCheckBox(ramec), Indexem(u"chkTah"_qs, tah - 1));
+        chkTah[std::size_t(tah - 1)] = Okno.Pojmenuj(new QCheckBox(ramec), Indexem(u"chkTah"_qs, tah - 1));
         mrizka->addWidget(chkTah[std::size_t(tah - 1)], tah, 0);
         mrizka->addWidget(pole, tah, 1);
         mrizka->addWidget(posuvnik, tah, 2);
@@ -220,7 +212,7 @@ void frmVypisTipu_Vyhodnoceni::Vycisti_Vyhodnoceni() {
         for (int i = 0; i < 7; ++i)
             Nastav_Barvu(Box(tah, i), Qt::white);
     cmdGeneruji_Tip->setEnabled(false);
-    Frame2->setTitle(Text(u"Frame2"_qs));
+    Frame2->setTitle(Okno.Text(u"Frame2"_qs));
 }
 
 void frmVypisTipu_Vyhodnoceni::Typ_Click(int index) {
@@ -277,7 +269,7 @@ void frmVypisTipu_Vyhodnoceni::Nahodny_Los() {
         }
         lblTahCislo[std::size_t(tah - 1)]->clear();
     }
-    Frame2->setTitle(Text(u"Frame2.Los"_qs));
+    Frame2->setTitle(Okno.Text(u"Frame2.Los"_qs));
     cmdGeneruji_Tip->setEnabled(true);
     emit Tah_Zobrazen();
 }
@@ -342,7 +334,7 @@ void frmVypisTipu_Vyhodnoceni::Zobraz_Legendu(bool zmena) {
     for (const auto& [popis, barva] : popisy) {
         if (popis == Label6 && !zmena)
             continue;
-        popis->setText(Text(popis->objectName()));
+        popis->setText(Okno.Text(popis->objectName()));
         QPalette paleta = popis->palette();
         paleta.setColor(QPalette::Window, frmKresleni::Barva_Z_Vb(barva));
         popis->setPalette(paleta);
@@ -452,14 +444,12 @@ void frmVypisTipu_Vyhodnoceni::Zobraz_Tah(int tah, int index) {
 }
 
 void frmVypisTipu_Vyhodnoceni::Vypis_Jeden_Tah(int tah, QChar kod, const QString& radek_tipu) {
-    const int pocet = tah == 1 ? Sezeni.Archiv.Pocet_Tahy_1 : Sezeni.Archiv.Pocet_Tahy_2;
-    const int n = std::clamp(tah == 1 ? N1() : N2(), 0, pocet);
-    const std::vector<Tah>& tahy = tah == 1 ? Sezeni.Archiv.Tahy_1 : Sezeni.Archiv.Tahy_2;
+    const Rozsah_Tahu rozsah = Rozsah_Archivu(Sezeni.Archiv, N1(), N2());
     const int hledano = int(Vb::Val(QString(kod)));
     int nalezeno = 0;
-    for (int d = pocet - n + 1; d <= pocet; ++d) {
+    for (int d = rozsah.Od(tah); d <= rozsah.Do(tah); ++d) {
         int c = 0;
-        for (const uint8_t cislo : tahy[std::size_t(d)])
+        for (const uint8_t cislo : rozsah.Tahy(tah)[std::size_t(d)])
             c += radek_tipu.contains(u' ' + QString::number(cislo) + u' ') ? 1 : 0;
         if (c == hledano || (kod == u'D' && c == 6))
             nalezeno = d;
@@ -564,5 +554,5 @@ void frmVypisTipu_Vyhodnoceni::Srovnej() {
                 .arg(Vb::Format(s.Penize_Nahody.Prumer, u"### ### ###").trimmed())
                 .arg(Vb::Format(s.Penize_Nahody.Pet, u"### ### ###").trimmed())
                 .arg(Vb::Format(s.Penize_Nahody.Devadesat, u"### ### ###").trimmed());
-    Sezeni.Dialog->Okno_Zpravy(Dialogy::Ikona::Informace, Text(u"cmdSrovnani"_qs).remove(u'&'), text + s.Veta);
+    Sezeni.Dialog->Okno_Zpravy(Dialogy::Ikona::Informace, Okno.Text(u"cmdSrovnani"_qs).remove(u'&'), text + s.Veta);
 }

@@ -31,17 +31,9 @@ using modNastaveni_Ovladani::Prvek;
 
 namespace {
 
-const QString Okno = u"frmVypisTipu"_qs;
+const modNastaveni_Ovladani::Texty_Okna Okno{u"frmVypisTipu"_qs};
 const QString Rimska[5] = {u"I"_qs, u"II"_qs, u"III"_qs, u"IV"_qs, u"V"_qs};
 const QString Kody = u"6D543"_qs; // the one-letter codes of tiers 1..5
-
-QString Text(const QString& klic) {
-    return Tabulka_Textu::Programu().Text(Okno + u'.' + klic);
-}
-
-template <class T> T* Pojmenuj(T* prvek, const QString& jmeno) {
-    return Prvek(prvek, Okno, jmeno);
-}
 
 // The value of a money box, blanks of the grouping skipped.
 double Hodnota(const QLineEdit* pole) {
@@ -70,24 +62,24 @@ private:
 } // namespace
 
 frmVypisTipu_Vyhry::frmVypisTipu_Vyhry(Relace& sezeni, QWidget* parent)
-    : QWidget(parent), Tah1CelkVyhra(Pojmenuj(new QLineEdit(this), u"Tah1CelkVyhra"_qs)),
-      Tah2CelkVyhra(Pojmenuj(new QLineEdit(this), u"Tah2CelkVyhra"_qs)),
-      txtCelkemVyhra(Pojmenuj(new QLineEdit(this), u"txtCelkemVyhra"_qs)),
-      txtVklad(Pojmenuj(new QLineEdit(this), u"txtVklad"_qs)), txtUspech(Pojmenuj(new QLineEdit(this), u"txtUspech"_qs)),
-      txtSance(Pojmenuj(new QLineEdit(this), u"txtSance"_qs)), cmdSance(Pojmenuj(new QPushButton(this), u"cmdSance"_qs)),
-      lstTiketyVypis(Pojmenuj(new QListView(this), u"lstTiketyVypis"_qs)),
-      List3(Pojmenuj(new QListWidget(this), u"List3"_qs)),
-      lblPocetRadekTiketu(Pojmenuj(new QLabel(this), u"lblPocetRadekTiketu"_qs)),
-      lstSazejiciVypis(Pojmenuj(new QListWidget(this), u"lstSazejiciVypis"_qs)),
-      lblPocetRadkuSazejici(Pojmenuj(new QLabel(this), u"lblPocetRadkuSazejici"_qs)),
-      cmdTisk_Vyhernich_Tipu(Pojmenuj(new QPushButton(this), u"cmdTisk_Výhernich_Tipu"_qs)),
-      Command1(Pojmenuj(new QPushButton(this), u"Command1"_qs)),
-      lblCasZpracovani(Pojmenuj(new QLabel(this), u"lblCasZpracovani"_qs)), Sezeni(sezeni),
+    : QWidget(parent), Tah1CelkVyhra(Okno.Pojmenuj(new QLineEdit(this), u"Tah1CelkVyhra"_qs)),
+      Tah2CelkVyhra(Okno.Pojmenuj(new QLineEdit(this), u"Tah2CelkVyhra"_qs)),
+      txtCelkemVyhra(Okno.Pojmenuj(new QLineEdit(this), u"txtCelkemVyhra"_qs)),
+      txtVklad(Okno.Pojmenuj(new QLineEdit(this), u"txtVklad"_qs)), txtUspech(Okno.Pojmenuj(new QLineEdit(this), u"txtUspech"_qs)),
+      txtSance(Okno.Pojmenuj(new QLineEdit(this), u"txtSance"_qs)), cmdSance(Okno.Pojmenuj(new QPushButton(this), u"cmdSance"_qs)),
+      lstTiketyVypis(Okno.Pojmenuj(new QListView(this), u"lstTiketyVypis"_qs)),
+      List3(Okno.Pojmenuj(new QListWidget(this), u"List3"_qs)),
+      lblPocetRadekTiketu(Okno.Pojmenuj(new QLabel(this), u"lblPocetRadekTiketu"_qs)),
+      lstSazejiciVypis(Okno.Pojmenuj(new QListWidget(this), u"lstSazejiciVypis"_qs)),
+      lblPocetRadkuSazejici(Okno.Pojmenuj(new QLabel(this), u"lblPocetRadkuSazejici"_qs)),
+      cmdTisk_Vyhernich_Tipu(Okno.Pojmenuj(new QPushButton(this), u"cmdTisk_Výhernich_Tipu"_qs)),
+      Command1(Okno.Pojmenuj(new QPushButton(this), u"Command1"_qs)),
+      lblCasZpracovani(Okno.Pojmenuj(new QLabel(this), u"lblCasZpracovani"_qs)), Sezeni(sezeni),
       Model_Vyher(new ::Model_Vyher(Mista, this)), Seznam_Vyher(new QStackedLayout) {
     setObjectName(u"frmVypisTipu_Vyhry"_qs);
     lstTiketyVypis->setModel(Model_Vyher);
     lstTiketyVypis->setUniformItemSizes(true);
-    List3->addItem(Text(u"List3"_qs));
+    List3->addItem(Okno.Text(u"List3"_qs));
     List3->setEnabled(false);
     for (QListView* seznam : {static_cast<QListView*>(lstTiketyVypis), static_cast<QListView*>(lstSazejiciVypis)}) {
         QFont pevne(u"DejaVu Sans Mono"_qs);
@@ -106,7 +98,7 @@ frmVypisTipu_Vyhry::frmVypisTipu_Vyhry(Relace& sezeni, QWidget* parent)
     optTyden_Click(Sezeni.Tikety.Den_Tahu == 1 ? 1 : 0);
     Prepis(txtVklad, Vb::Format(Sezeni.Tikety.Vklad.Korun(), u"### ### ###"));
     Prepis(txtSance, Vb::Format(Sezeni.Tikety.Vklad_Sance.Korun(), u"### ### ###"));
-    cmdSance->setText(Sezeni.Tikety.Vklad_Sance.Hodnota > 0 ? Text(u"cmdSance.Plus"_qs) : Text(u"cmdSance"_qs));
+    cmdSance->setText(Sezeni.Tikety.Vklad_Sance.Hodnota > 0 ? Okno.Text(u"cmdSance.Plus"_qs) : Okno.Text(u"cmdSance"_qs));
 
     connect(cmdSance, &QPushButton::clicked, this, &frmVypisTipu_Vyhry::cmdSance_Click);
     connect(txtVklad, &QLineEdit::textEdited, this, [this] {
@@ -127,14 +119,14 @@ frmVypisTipu_Vyhry::frmVypisTipu_Vyhry(Relace& sezeni, QWidget* parent)
 frmVypisTipu_Vyhry::~frmVypisTipu_Vyhry() = default;
 
 QWidget* frmVypisTipu_Vyhry::Tabulka_Cen() {
-    auto* ramec = Pojmenuj(new QGroupBox(this), u"frmCenyTahu"_qs);
+    auto* ramec = Okno.Pojmenuj(new QGroupBox(this), u"frmCenyTahu"_qs);
     auto* mrizka = new QGridLayout(ramec);
     mrizka->setVerticalSpacing(1);
     for (int i = 0; i < 2; ++i) {
-        optTyden[std::size_t(i)] = Pojmenuj(new QRadioButton(ramec), Indexem(u"optTyden"_qs, i));
+        optTyden[std::size_t(i)] = Okno.Pojmenuj(new QRadioButton(ramec), Indexem(u"optTyden"_qs, i));
         mrizka->addWidget(optTyden[std::size_t(i)], 0, 1 + 3 * i, 1, 2);
         connect(optTyden[std::size_t(i)], &QRadioButton::clicked, this, [this, i] { optTyden_Click(i); });
-        auto* hlava = new QLabel(Text(u"lblPocPorKc"_qs), ramec);
+        auto* hlava = new QLabel(Okno.Text(u"lblPocPorKc"_qs), ramec);
         hlava->setObjectName(Indexem(u"lblPocPorKc"_qs, i));
         mrizka->addWidget(hlava, 1, 1 + 3 * i, 1, 2);
     }
@@ -142,15 +134,15 @@ QWidget* frmVypisTipu_Vyhry::Tabulka_Cen() {
     for (int i = 0; i < 5; ++i) {
         mrizka->addWidget(new QLabel(Rimska[i], ramec), 2 + i, 0);
         for (int tah = 0; tah < 2; ++tah) {
-            auto* pocet = Pojmenuj(new QLineEdit(ramec), Indexem(tah == 0 ? u"Tah1Cena"_qs : u"Tah2Cena"_qs, i));
-            auto* cena = Pojmenuj(new QLineEdit(ramec), Indexem(tah == 0 ? u"Tah1Vyhra"_qs : u"Tah2Vyhra"_qs, i));
+            auto* pocet = Okno.Pojmenuj(new QLineEdit(ramec), Indexem(tah == 0 ? u"Tah1Cena"_qs : u"Tah2Cena"_qs, i));
+            auto* cena = Okno.Pojmenuj(new QLineEdit(ramec), Indexem(tah == 0 ? u"Tah1Vyhra"_qs : u"Tah2Vyhra"_qs, i));
             (tah == 0 ? Tah1Cena : Tah2Cena)[std::size_t(i)] = pocet;
             (tah == 0 ? Tah1Vyhra : Tah2Vyhra)[std::size_t(i)] = cena;
             pocet->setReadOnly(true);
             pocet->setAlignment(Qt::AlignRight);
             pocet->setMaximumWidth(sirka * 2 / 3);
             pocet->setCursor(Qt::PointingHandCursor);
-            pocet->setToolTip(Text(tah == 0 ? u"Tah1Cena.ToolTipText"_qs : u"Tah2Cena.ToolTipText"_qs));
+            pocet->setToolTip(Okno.Text(tah == 0 ? u"Tah1Cena.ToolTipText"_qs : u"Tah2Cena.ToolTipText"_qs));
             pocet->installEventFilter(this);
             connect(pocet, &QLineEdit::textChanged, this, [this, pocet] { Obarvi_Pocet(pocet); });
             cena->setAlignment(Qt::AlignRight);
@@ -184,7 +176,7 @@ QWidget* frmVypisTipu_Vyhry::Penize() {
         {txtCelkemVyhra, u"lblVyhra"_qs}, {txtVklad, u"lblVklad"_qs}, {txtUspech, u"lblUspech"_qs}};
     int r = 0;
     for (const auto& [pole, popis] : radky) {
-        rozlozeni->addWidget(new QLabel(Text(popis), sloupec), r++, 0, 1, 2);
+        rozlozeni->addWidget(new QLabel(Okno.Text(popis), sloupec), r++, 0, 1, 2);
         rozlozeni->addWidget(pole, r++, 0, 1, 2);
         pole->setAlignment(Qt::AlignRight);
     }
@@ -205,8 +197,8 @@ QWidget* frmVypisTipu_Vyhry::Seznamy() {
     auto* blok = new QWidget(this);
     auto* rozlozeni = new QGridLayout(blok);
     rozlozeni->setContentsMargins(0, 0, 0, 0);
-    rozlozeni->addWidget(new QLabel(Text(u"lblTikety"_qs), blok), 0, 0, 1, 2);
-    rozlozeni->addWidget(new QLabel(Text(u"lblSazejici"_qs), blok), 0, 2, 1, 2);
+    rozlozeni->addWidget(new QLabel(Okno.Text(u"lblTikety"_qs), blok), 0, 0, 1, 2);
+    rozlozeni->addWidget(new QLabel(Okno.Text(u"lblSazejici"_qs), blok), 0, 2, 1, 2);
     Seznam_Vyher->addWidget(lstTiketyVypis);
     Seznam_Vyher->addWidget(List3);
     rozlozeni->addLayout(Seznam_Vyher, 1, 0, 1, 2);
@@ -291,13 +283,13 @@ void frmVypisTipu_Vyhry::cmdSance_Click() {
     // The caption names what the click does: "+ šance" adds it to the stake, "- šance" takes it off.
     const bool pridat = cmdSance->text().contains(u'+');
     const double vklad = Hodnota(txtVklad) + (pridat ? 1 : -1) * Hodnota(txtSance);
-    cmdSance->setText(pridat ? Text(u"cmdSance"_qs) : Text(u"cmdSance.Plus"_qs));
+    cmdSance->setText(pridat ? Okno.Text(u"cmdSance"_qs) : Okno.Text(u"cmdSance.Plus"_qs));
     txtVklad->setText(Vb::Format(vklad, u"### ### ###"));
     Spocti_Uspech();
 }
 
 void frmVypisTipu_Vyhry::Prepocti_Vklad(int n1, int n2) {
-    cmdSance->setText(Text(u"cmdSance"_qs));
+    cmdSance->setText(Okno.Text(u"cmdSance"_qs));
     cmdSance_Click();
     const int m = std::max(n1, n2);
     txtVklad->setText(Vb::Format(Sezeni.Tikety.Vklad.Korun() * m, u"### ### ###"));
