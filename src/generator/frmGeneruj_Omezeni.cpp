@@ -22,11 +22,7 @@ using modNastaveni_Ovladani::Indexem;
 
 namespace {
 
-const QString Okno = u"frmGeneruj"_qs;
-
-template <class T> T* Pojmenuj(T* prvek, const QString& jmeno) {
-    return modNastaveni_Ovladani::Prvek(prvek, Okno, jmeno);
-}
+const modNastaveni_Ovladani::Texty_Okna Okno{u"frmGeneruj"_qs};
 
 QString Cislo(double x) {
     return Vb::Text(x);
@@ -35,19 +31,19 @@ QString Cislo(double x) {
 } // namespace
 
 frmGeneruj_Omezeni::frmGeneruj_Omezeni(Relace& sezeni, QWidget* parent)
-    : QWidget(parent), Text4(Pojmenuj(new QLineEdit(this), u"Text4"_qs)),
-      Vynech_Tahy_1_Od(Pojmenuj(new QLineEdit(this), u"Vynech_Tahy_1_Od"_qs)),
-      Vynech_Tahy_2_Od(Pojmenuj(new QLineEdit(this), u"Vynech_Tahy_2_Od"_qs)),
-      txtCisel_V_Dekade(Pojmenuj(new QLineEdit(this), u"txtCisel_V_Dekade"_qs)),
-      Text7(Pojmenuj(new QLineEdit(this), u"Text7"_qs)), Text8(Pojmenuj(new QLineEdit(this), u"Text8"_qs)),
-      txtPrunik(Pojmenuj(new QLineEdit(this), u"txtPrunik"_qs)), Sezeni(sezeni) {
+    : QWidget(parent), Text4(Okno.Pojmenuj(new QLineEdit(this), u"Text4"_qs)),
+      Vynech_Tahy_1_Od(Okno.Pojmenuj(new QLineEdit(this), u"Vynech_Tahy_1_Od"_qs)),
+      Vynech_Tahy_2_Od(Okno.Pojmenuj(new QLineEdit(this), u"Vynech_Tahy_2_Od"_qs)),
+      txtCisel_V_Dekade(Okno.Pojmenuj(new QLineEdit(this), u"txtCisel_V_Dekade"_qs)),
+      Text7(Okno.Pojmenuj(new QLineEdit(this), u"Text7"_qs)), Text8(Okno.Pojmenuj(new QLineEdit(this), u"Text8"_qs)),
+      txtPrunik(Okno.Pojmenuj(new QLineEdit(this), u"txtPrunik"_qs)), Sezeni(sezeni) {
     for (int i = 0; i < 3; ++i) {
-        txtOmezeni[std::size_t(i)] = Pojmenuj(new QLineEdit(this), Indexem(u"txtOmezeni"_qs, i));
-        txtSudLich[std::size_t(i)] = Pojmenuj(new QLineEdit(this), Indexem(u"txtSudLich"_qs, i));
+        txtOmezeni[std::size_t(i)] = Okno.Pojmenuj(new QLineEdit(this), Indexem(u"txtOmezeni"_qs, i));
+        txtSudLich[std::size_t(i)] = Okno.Pojmenuj(new QLineEdit(this), Indexem(u"txtSudLich"_qs, i));
     }
     for (int i = 0; i < 2; ++i) {
-        txtSuma[std::size_t(i)] = Pojmenuj(new QLineEdit(this), Indexem(u"txtSuma"_qs, i));
-        txtRozsah_Min_Max[std::size_t(i)] = Pojmenuj(new QLineEdit(this), Indexem(u"txtRozsah_Min_Max"_qs, i));
+        txtSuma[std::size_t(i)] = Okno.Pojmenuj(new QLineEdit(this), Indexem(u"txtSuma"_qs, i));
+        txtRozsah_Min_Max[std::size_t(i)] = Okno.Pojmenuj(new QLineEdit(this), Indexem(u"txtRozsah_Min_Max"_qs, i));
     }
     Limity = {{{txtOmezeni[0], txtOmezeni[1], txtOmezeni[2]},
                {Text4},
@@ -61,14 +57,14 @@ frmGeneruj_Omezeni::frmGeneruj_Omezeni(Relace& sezeni, QWidget* parent)
                {txtRozsah_Min_Max[0], txtRozsah_Min_Max[1]},
                {txtPrunik}}};
 
-    auto* ramec = Pojmenuj(new QGroupBox(this), u"fraOmezeni"_qs);
+    auto* ramec = Okno.Pojmenuj(new QGroupBox(this), u"fraOmezeni"_qs);
     auto* mrizka = new QGridLayout(ramec);
     mrizka->setVerticalSpacing(2);
     const int sirka = fontMetrics().horizontalAdvance(u"00000"_qs) + 10;
     for (int i = 0; i < 11; ++i) {
-        auto* box = Pojmenuj(new QCheckBox(ramec), Indexem(u"Check1"_qs, i));
+        auto* box = Okno.Pojmenuj(new QCheckBox(ramec), Indexem(u"Check1"_qs, i));
         Check1[std::size_t(i)] = box;
-        Popisky[std::size_t(i)] = Pojmenuj(new QLabel(ramec), Indexem(u"lblOmezeni"_qs, i));
+        Popisky[std::size_t(i)] = Okno.Pojmenuj(new QLabel(ramec), Indexem(u"lblOmezeni"_qs, i));
         mrizka->addWidget(box, i, 0);
         mrizka->addWidget(Popisky[std::size_t(i)], i, 1);
         int sloupec = 2;

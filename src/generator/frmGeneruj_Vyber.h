@@ -6,7 +6,6 @@
 // Generator.Vyber and Generator.Tutovky, so what it holds outlives the window.
 
 #include <QWidget>
-
 #include <array>
 #include <cstdint>
 
@@ -33,7 +32,8 @@ public:
 
     // Nastav_Rozpis, the part of the pools: the number lists emptied, the grid cleared, the options
     // as the index wants (0: optVybrana_Cisla on, cmdUloz_Soubor_VybranaCisla off, manual picking),
-    // Cisla_Potreba and txtZbytek_Cisel.
+    // Cisla_Potreba and txtZbytek_Cisel. For a wheel (index > 0) the caller has put the wheel's
+    // Cisla_Potreba and Pocet_Tutovek_Rozpisu into Generator.Vyber first; index 0 sets 49 and 0.
     void Nastav_Rozpis(int cislo_rozpisu);
     // Nacti_Cisla_Do_Generatoru: the text of txtRozpisAktivni becomes the list of "Použít",
     // optVybrana_Cisla(1) is set and the grid redrawn.
@@ -78,6 +78,9 @@ private:
     QWidget* Rozsahy();
     QWidget* Zpusoby();
     void Obnov();
+    void Povol_Pro_Rozpis(int cislo_rozpisu);
+    int Zvoleny_Rozsah() const;
+    bool Je_Vybrano(int cislo);
     Boxy_Tutovek Boxy() const;
     void Zapis_Boxy(const Boxy_Tutovek& boxy);
     void Zobraz_Stav(const Stav_Vyberu& stav);

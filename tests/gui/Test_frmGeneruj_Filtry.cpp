@@ -1,18 +1,13 @@
-// The two panels of the generator window: the filter boxes with the rules that keep their limits
-// sane and the state a second opening finds, and the number pools with tutovky, ranges, the
-// exchange and the .vyb files.
+// The filter panel of the generator window: the boxes with the rules that keep their limits sane,
+// what a run takes from them, and the state a second opening finds.
 #include "Prostredi_Okna.h"
-#include "app/frmSloupec_Tiketu.h"
 #include "generator/Generator.h"
 #include "generator/frmGeneruj.h"
 #include "generator/frmGeneruj_Omezeni.h"
-#include "generator/frmGeneruj_Vyber.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTest>
 
 namespace {
@@ -28,13 +23,9 @@ void Napis(QLineEdit* pole, const QString& text) {
     QTest::keyClicks(pole, text);
 }
 
-void Klikni(frmGeneruj_Vyber* vyber, int cislo, Qt::MouseButton tlacitko = Qt::LeftButton) {
-    emit vyber->picSloupec->Klik(cislo, tlacitko, false);
-}
-
 } // namespace
 
-class Test_frmGeneruj_Panely final : public QObject {
+class Test_frmGeneruj_Filtry final : public QObject {
     Q_OBJECT
 
 private slots:
@@ -86,52 +77,7 @@ private slots:
         QCOMPARE(o->txtSuma[0]->text(), u"100"_qs);
         QCOMPARE(o->txtSudLich[1]->text(), u"5"_qs);
     }
-
-    void Vyber() {
-        Prostredi prostredi(QDate(2026, 11, 26));
-        prostredi.Spust();
-        frmGeneruj_Vyber* v = Otevri_Generator(prostredi)->Vyber;
-        const Vyber_Cisel& stav = prostredi.Data->Generator.Vyber;
-
-        // "Bez výběru": a left click does nothing, right clicks set tutovky, a fourth is refused.
-        Klikni(v, 5);
-        QCOMPARE(stav.Pocet_Pouzit, 0);
-        for (const int n : {5, 9, 14, 20})
-            Klikni(v, n, Qt::RightButton);
-        QCOMPARE(v->txtTutovka[2]->text(), u"14"_qs);
-        QCOMPARE(stav.Pocet_Pouzit, 3);
-
-        // "Použít": a range fills the list; a click on a chosen number takes it out, and the
-        // tutovky stay in their boxes.
-        v->optVybrana_Cisla[1]->click();
-        v->optRozsah_Cisel[1]->click();
-        QCOMPARE(stav.Pocet_Pouzit, 25);
-        QCOMPARE(v->txtZbytek_Cisel->text(), u"24"_qs);
-        Klikni(v, 20);
-        QCOMPARE(stav.Pocet_Pouzit, 24);
-        QCOMPARE(v->txtTutovka[0]->text(), u"5"_qs);
-
-        // The exchange turns the pool to what is left out; a .vyb file keeps that mode.
-        QTest::mouseClick(v->cmdZamenitCisla, Qt::LeftButton);
-        QVERIFY(v->optVybrana_Cisla[2]->isChecked());
-        QCOMPARE(stav.Pocet_Vynechat, 24);
-        prostredi.Dialogy.Soubory.enqueue(prostredi.Cesta(u"vynechat.vyb"_qs));
-        QTest::mouseClick(v->cmdUloz_Soubor_VybranaCisla, Qt::LeftButton);
-        QTest::mouseClick(v->cmdOpakovat, Qt::LeftButton);
-        QCOMPARE(stav.Pocet_Vynechat, 0);
-        v->optVybrana_Cisla[1]->click();
-        prostredi.Dialogy.Soubory.enqueue(prostredi.Cesta(u"vynechat.vyb"_qs));
-        QTest::mouseClick(v->Otevri_Soubor_JenCisla, Qt::LeftButton);
-        QVERIFY(v->optVybrana_Cisla[2]->isChecked());
-        QCOMPARE(stav.Pocet_Vynechat, 24);
-        QCOMPARE(v->txtZbytek_Cisel->text(), u"25"_qs);
-
-        // A picked way of choosing needs a wheel.
-        v->optZpusob_Vyberu[1]->click();
-        QCOMPARE(prostredi.Oznameni().last(), u"Vyber čísla ručně ..."_qs);
-        QVERIFY(v->optZpusob_Vyberu[0]->isChecked());
-    }
 };
 
-QTEST_MAIN(Test_frmGeneruj_Panely)
-#include "Test_frmGeneruj_Panely.moc"
+QTEST_MAIN(Test_frmGeneruj_Filtry)
+#include "Test_frmGeneruj_Filtry.moc"
