@@ -40,8 +40,9 @@ frmVypisTipuVsech::frmVypisTipuVsech(frmMDITombi& ram, QWidget* parent)
     for (int i = 0; i < 2; ++i) {
         lblTutovky[std::size_t(i)] = modNastaveni_Ovladani::Prvek(new QLabel(this), u"frmVypisTipuVsech"_qs,
                                                                   u"lblTutovky(%1)"_qs.arg(i));
-        nahore->addWidget(lblTutovky[std::size_t(i)], i == 0 ? 1 : 0);
+        nahore->addWidget(lblTutovky[std::size_t(i)]);
     }
+    nahore->addStretch();
     lblTutovky[0]->setWordWrap(false);
     lblTutovky[0]->installEventFilter(this);
     auto* rozlozeni = new QVBoxLayout(this);

@@ -18,6 +18,7 @@
 #include "tips/frmVypisTipu.h"
 #include "tips/frmVypisTipu_Vyhodnoceni.h"
 #include "tips/frmVypisTipu_Vyhry.h"
+#include "tips/frmVypisTipuVsech.h"
 #include "app/frmPrehled.h"
 #include "app/frmTombi_uvod.h"
 #include "data/Chyby_A_Prehled.h"
@@ -162,6 +163,19 @@ int main(int argc, char** argv) {
              prostredi.Spust().resize(880, 700);
              prostredi.Otevri_Tipy(u"261126_24.tip"_qs);
              prostredi.Okno->Najdi_Okno<frmVypisTipu>()->List2->setCurrentRow(1);
+             return prostredi.Okno.release();
+         }},
+        // The tips of joined wheels with the numbers they use.
+        {u"frmVypisTipuVsech"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 26));
+             frmMDITombi& okno = prostredi.Spust();
+             auto* vsech = okno.Otevri_Okno<frmVypisTipuVsech>(okno);
+             QString tipy;
+             for (int i = 0; i < 14; ++i)
+                 tipy += u"%1%2%3%4%5%6\r\n"_qs.arg(3, 3).arg(7 + i % 3, 3).arg(12 + i, 3).arg(19, 3).arg(25 + i, 3).arg(41, 3);
+             vsech->Zobraz(tipy, u" 3 41 7 8 9 12 13 14 15 16 17 18 19 25 26 27"_qs);
+             vsech->Umisti(nullptr);
              return prostredi.Okno.release();
          }},
         // The generator with numbers taken from the status band, a tutovka by a right click and two
