@@ -59,11 +59,12 @@ frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
     Sezeni.Random.Horni_Mez = 49;
     Stav_Generatoru& stav = Sezeni.Generator;
     const bool poprve = stav.Cislo_Rozpisu < 0;
-    if (poprve)
-        stav.Cislo_Rozpisu = 0;
 
+    // The panels tell a first opening by Cislo_Rozpisu still at -1.
     Vyber = new frmGeneruj_Vyber(ram, this);
     Omezeni = new frmGeneruj_Omezeni(Sezeni, this);
+    if (poprve)
+        stav.Cislo_Rozpisu = 0;
 
     // The catalogue of wheels; choosing one joins in with the wheels, so only row 0 can be chosen.
     lstSportka->addItems(modRozpisy::Katalog());

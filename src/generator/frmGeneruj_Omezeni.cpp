@@ -8,6 +8,7 @@
 #include "generator/Generator.h"
 
 #include <QCheckBox>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -17,7 +18,6 @@
 
 #include <algorithm>
 
-using modNastaveni_Ovladani::Cele_Cislo;
 using modNastaveni_Ovladani::Indexem;
 
 namespace {
@@ -26,6 +26,14 @@ const modNastaveni_Ovladani::Texty_Okna Okno{u"frmGeneruj"_qs};
 
 QString Cislo(double x) {
     return Vb::Text(x);
+}
+
+double Hodnota(const QLineEdit* pole) {
+    return Vb::Val(pole->text());
+}
+
+bool Prazdne(const QLineEdit* pole) {
+    return pole->text().trimmed().isEmpty();
 }
 
 } // namespace
@@ -45,6 +53,8 @@ frmGeneruj_Omezeni::frmGeneruj_Omezeni(Relace& sezeni, QWidget* parent)
         txtSuma[std::size_t(i)] = Okno.Pojmenuj(new QLineEdit(this), Indexem(u"txtSuma"_qs, i));
         txtRozsah_Min_Max[std::size_t(i)] = Okno.Pojmenuj(new QLineEdit(this), Indexem(u"txtRozsah_Min_Max"_qs, i));
     }
+    // The limit boxes of each filter in the order they stand in its row; the first takes the focus
+    // when the filter is ticked.
     Limity = {{{txtOmezeni[0], txtOmezeni[1], txtOmezeni[2]},
                {Text4},
                {Vynech_Tahy_1_Od, Vynech_Tahy_2_Od},
@@ -57,10 +67,12 @@ frmGeneruj_Omezeni::frmGeneruj_Omezeni(Relace& sezeni, QWidget* parent)
                {txtRozsah_Min_Max[0], txtRozsah_Min_Max[1]},
                {txtPrunik}}};
 
+    // One row a filter: the box (its tool tip is its only caption), the label, the limits.
     auto* ramec = Okno.Pojmenuj(new QGroupBox(this), u"fraOmezeni"_qs);
     auto* mrizka = new QGridLayout(ramec);
     mrizka->setVerticalSpacing(2);
-    const int sirka = fontMetrics().horizontalAdvance(u"00000"_qs) + 10;
+    mrizka->setHorizontalSpacing(4);
+    const int sirka = fontMetrics().horizontalAdvance(u"0000"_qs) + 14;
     for (int i = 0; i < 11; ++i) {
         auto* box = Okno.Pojmenuj(new QCheckBox(ramec), Indexem(u"Check1"_qs, i));
         Check1[std::size_t(i)] = box;
@@ -70,14 +82,14 @@ frmGeneruj_Omezeni::frmGeneruj_Omezeni(Relace& sezeni, QWidget* parent)
         int sloupec = 2;
         for (QLineEdit* pole : Limity[std::size_t(i)]) {
             pole->setParent(ramec);
-            pole->setMaximumWidth(sirka);
+            pole->setFixedWidth(sirka);
             pole->setMaxLength(pole == Vynech_Tahy_1_Od || pole == Vynech_Tahy_2_Od ? 5 : 3);
             pole->setAlignment(Qt::AlignRight);
             modNastaveni_Ovladani::Jen_Cislice(pole);
             modNastaveni_Ovladani::Vybirej_Pri_Vstupu(pole);
+            pole->installEventFilter(this);
             mrizka->addWidget(pole, i, sloupec++);
             connect(pole, &QLineEdit::textChanged, this, [this, pole] { Limit_Zmenen(pole); });
-            connect(pole, &QLineEdit::editingFinished, this, [this, pole] { Limit_Opusten(pole); });
         }
         connect(box, &QCheckBox::toggled, this, [this, i](bool zapnuto) { Check1_Click(i, zapnuto); });
     }
@@ -90,18 +102,22 @@ frmGeneruj_Omezeni::frmGeneruj_Omezeni(Relace& sezeni, QWidget* parent)
 }
 
 void frmGeneruj_Omezeni::Obnov() {
-    // The boxes and limits as the session left them; the decade limit starts at 3 each time, and
-    // the spread, sums and range of a former state only where they were set.
-    Zadani_Generatoru& s = Sezeni.Generator.Omezeni;
+    // A window opened before finds the boxes and limits as it left them: the spread only if it was
+    // set, the sums and the range only if either of their two values was. A first opening starts
+    // from the defaults. The decade limit starts at 3 each time.
+    const bool drive = Sezeni.Generator.Cislo_Rozpisu >= 0;
     const Zadani_Generatoru vychozi;
-    s.Limit_Dekada = 3;
-    if (s.Rozptyl == 0)
-        s.Rozptyl = vychozi.Rozptyl;
-    if (s.Suma[0] == 0 && s.Suma[1] == 0)
-        s.Suma = vychozi.Suma;
-    if (s.Rozsah[0] == 0 && s.Rozsah[1] == 0)
-        s.Rozsah = vychozi.Rozsah;
-    const Zadani_Generatoru stav = s;
+    Zadani_Generatoru stav = drive ? Sezeni.Generator.Omezeni : vychozi;
+    if (!drive)
+        stav.Check1 = {};
+    if (stav.Rozptyl == 0)
+        stav.Rozptyl = vychozi.Rozptyl;
+    if (stav.Suma[0] == 0 && stav.Suma[1] == 0)
+        stav.Suma = vychozi.Suma;
+    if (stav.Rozsah[0] == 0 && stav.Rozsah[1] == 0)
+        stav.Rozsah = vychozi.Rozsah;
+    stav.Limit_Dekada = 3;
+
     Nastavuje = true;
     for (std::size_t i = 0; i < 3; ++i)
         txtOmezeni[i]->setText(Cislo(stav.Omezeni[i]));
@@ -117,24 +133,48 @@ void frmGeneruj_Omezeni::Obnov() {
         txtRozsah_Min_Max[i]->setText(Cislo(stav.Rozsah[i]));
     }
     txtPrunik->setText(Cislo(stav.Prunik));
-    // Check1(2) walks the archive of the day: the draw counts, and the box only with draws.
+    // Check1(2) walks the archive of the day: all its draws, and the box only with draws.
     Vynech_Tahy_1_Od->setText(QString::number(Sezeni.Archiv.Pocet_Tahy_1));
     Vynech_Tahy_2_Od->setText(QString::number(Sezeni.Archiv.Pocet_Tahy_2));
     Nastavuje = false;
-    Povol_Omezeni();
+
     for (std::size_t i = 0; i < Check1.size(); ++i) {
         const QSignalBlocker blokace(Check1[i]);
-        Check1[i]->setChecked(stav.Check1[i] && !(i == 2 && !Je_Archiv()));
-        Povol_Limity(int(i));
+        Check1[i]->setChecked(stav.Check1[i] && (i != 2 || Je_Archiv()));
     }
+    Povol_Omezeni();
+    for (std::size_t i = 0; i < Check1.size(); ++i)
+        Sezeni.Generator.Omezeni.Check1[i] = Check1[i]->isChecked();
+    Zapis_Stav();
+    // The window sets its count of tips while it loads; that must not replace a restored limit.
+    Drzet_Text4 = drive;
 }
 
 bool frmGeneruj_Omezeni::Je_Archiv() const {
     return Sezeni.Archiv.Tahy_Nacteny && (Sezeni.Archiv.Pocet_Tahy_1 > 0 || Sezeni.Archiv.Pocet_Tahy_2 > 0);
 }
 
+void frmGeneruj_Omezeni::showEvent(QShowEvent* udalost) {
+    Drzet_Text4 = false;
+    QWidget::showEvent(udalost);
+}
+
+bool frmGeneruj_Omezeni::eventFilter(QObject* objekt, QEvent* udalost) {
+    // Leaving a limit box for another control; a switch of windows or a popup is no leaving.
+    if (udalost->type() == QEvent::FocusOut) {
+        const Qt::FocusReason duvod = static_cast<QFocusEvent*>(udalost)->reason();
+        if (duvod != Qt::ActiveWindowFocusReason && duvod != Qt::PopupFocusReason)
+            if (auto* pole = qobject_cast<QLineEdit*>(objekt))
+                Limit_Opusten(pole);
+    }
+    return QWidget::eventFilter(objekt, udalost);
+}
+
+// ---- The filter boxes ----
+
 void frmGeneruj_Omezeni::Povol_Limity(int index) {
-    const bool zapnuto = Check1[std::size_t(index)]->isChecked() && Check1[std::size_t(index)]->isEnabled();
+    QCheckBox* box = Check1[std::size_t(index)];
+    const bool zapnuto = box->isChecked() && box->isEnabledTo(this);
     for (QLineEdit* pole : Limity[std::size_t(index)])
         pole->setEnabled(zapnuto);
 }
@@ -143,9 +183,7 @@ void frmGeneruj_Omezeni::Check1_Click(int index, bool zapnuto) {
     Sezeni.Generator.Omezeni.Check1[std::size_t(index)] = zapnuto;
     Povol_Limity(index);
     if (zapnuto && !Limity[std::size_t(index)].empty() && isVisible())
-        Limity[std::size_t(index)].front()->setFocus();
-    if (index == 10 && zapnuto)
-        Tutovky_Zmeneny(Pocet_Tutovek);
+        Limity[std::size_t(index)].front()->setFocus(Qt::OtherFocusReason);
 }
 
 // ---- The limits ----
@@ -155,6 +193,8 @@ void frmGeneruj_Omezeni::Prepis(QLineEdit* pole, double hodnota) {
 }
 
 void frmGeneruj_Omezeni::Limit_Zmenen(QLineEdit* pole) {
+    // A box written by a rule does not run the rules again, so two boxes can't write each other
+    // back and forth.
     if (Nastavuje)
         return;
     Nastavuje = true;
@@ -164,10 +204,10 @@ void frmGeneruj_Omezeni::Limit_Zmenen(QLineEdit* pole) {
 }
 
 void frmGeneruj_Omezeni::Uprav_Pri_Zmene(QLineEdit* pole) {
-    const double v = Vb::Val(pole->text());
-    const bool prazdne = pole->text().trimmed().isEmpty();
+    // An empty box is left alone while the user types; the rules for empty boxes run on leaving.
+    const double v = Hodnota(pole);
     if (pole == txtOmezeni[0]) {
-        if (!prazdne && v < 2)
+        if (!Prazdne(pole) && v < 2)
             Prepis(pole, 2);
     } else if (pole == txtOmezeni[1] || pole == txtOmezeni[2]) {
         if (v > 4)
@@ -175,30 +215,28 @@ void frmGeneruj_Omezeni::Uprav_Pri_Zmene(QLineEdit* pole) {
     } else if (pole == txtSudLich[1] || pole == txtSudLich[2]) {
         // Even and odd make six together.
         QLineEdit* druhe = pole == txtSudLich[1] ? txtSudLich[2] : txtSudLich[1];
-        if (v > 6 || v < 0 || Vb::Val(druhe->text()) > 6) {
+        if (v > 6 || v < 0 || Hodnota(druhe) > 6 || Hodnota(druhe) < 0) {
             Prepis(txtSudLich[1], 3);
             Prepis(txtSudLich[2], 3);
         } else {
-            druhe->setText(6 - v == 0 ? QString() : Cislo(6 - v));
+            druhe->setText(v == 6 ? QString() : Cislo(6 - v));
         }
-        if (Vb::Val(txtSudLich[0]->text()) == 2 && (Vb::Val(txtSudLich[1]->text()) == 5 || Vb::Val(txtSudLich[2]->text()) == 5))
-            Prepis(txtSudLich[0], 1);
     } else if (pole == txtSudLich[0]) {
         if (v > 2)
             Prepis(pole, 0);
-        else if (v == 2 && (Vb::Val(txtSudLich[1]->text()) == 5 || Vb::Val(txtSudLich[2]->text()) == 5))
+        else if (v == 2 && (Hodnota(txtSudLich[1]) == 5 || Hodnota(txtSudLich[2]) == 5))
             Prepis(pole, 1);
     } else if (pole == Text4) {
         if (v > 255)
             Prepis(pole, 0);
     } else if (pole == txtSuma[0]) {
-        if (v > Vb::Val(txtSuma[1]->text()))
-            Prepis(pole, Vb::Val(txtSuma[1]->text()) - 5);
+        if (v > Hodnota(txtSuma[1]))
+            Prepis(pole, std::max(0.0, Hodnota(txtSuma[1]) - 5));
     } else if (pole == txtSuma[1]) {
         if (v > 279)
             Prepis(pole, 279);
     } else if (pole == txtRozsah_Min_Max[0] || pole == txtRozsah_Min_Max[1]) {
-        if (!prazdne && v < 1)
+        if (!Prazdne(pole) && v < 1)
             Prepis(pole, 1);
         else if (v > 49)
             Prepis(pole, 49);
@@ -210,19 +248,22 @@ void frmGeneruj_Omezeni::Uprav_Pri_Zmene(QLineEdit* pole) {
 }
 
 void frmGeneruj_Omezeni::Limit_Opusten(QLineEdit* pole) {
-    // Rules that would fight the typing run when the box is left.
     Nastavuje = true;
-    if (pole == Text4 && pole->text().trimmed().isEmpty()) {
-        Prepis(pole, 0);
-    } else if (pole == txtCisel_V_Dekade && pole->text().trimmed().isEmpty()) {
-        Prepis(pole, 2);
-    } else if (pole == txtSuma[1] && Vb::Val(txtSuma[1]->text()) < Vb::Val(txtSuma[0]->text())) {
+    if (Prazdne(pole)) {
+        if (pole == txtOmezeni[0] || pole == txtCisel_V_Dekade)
+            Prepis(pole, 2);
+        else if (pole == Text4)
+            Prepis(pole, 0);
+        else if (pole == txtRozsah_Min_Max[0] || pole == txtRozsah_Min_Max[1])
+            Prepis(pole, 1);
+    }
+    if (pole == txtSuma[1] && Hodnota(txtSuma[1]) < Hodnota(txtSuma[0])) {
         Sezeni.Sluzby->Zprava(u"Hodnoty, zaměněny."_qs);
         const QString od = txtSuma[0]->text();
         txtSuma[0]->setText(txtSuma[1]->text());
         txtSuma[1]->setText(od);
     } else if ((pole == txtRozsah_Min_Max[0] || pole == txtRozsah_Min_Max[1]) &&
-               Vb::Val(txtRozsah_Min_Max[1]->text()) < Vb::Val(txtRozsah_Min_Max[0]->text())) {
+               Hodnota(txtRozsah_Min_Max[1]) < Hodnota(txtRozsah_Min_Max[0])) {
         const QString od = txtRozsah_Min_Max[0]->text();
         txtRozsah_Min_Max[0]->setText(txtRozsah_Min_Max[1]->text());
         txtRozsah_Min_Max[1]->setText(od);
@@ -232,51 +273,52 @@ void frmGeneruj_Omezeni::Limit_Opusten(QLineEdit* pole) {
 }
 
 void frmGeneruj_Omezeni::Zapis_Stav() {
-    // Each limit box writes its variable of the state the next opening restores.
+    // Every limit into the state that the next opening of the window restores.
     Zadani_Generatoru& s = Sezeni.Generator.Omezeni;
     for (std::size_t i = 0; i < 3; ++i)
-        s.Omezeni[i] = Vb::Val(txtOmezeni[i]->text());
-    s.Max_Tretich_Cen = Vb::Val(Text4->text());
-    s.Limit_Dekada = Vb::Val(txtCisel_V_Dekade->text());
-    s.Rozptyl = Vb::Val(txtSudLich[0]->text());
-    s.Sudych = Vb::Val(txtSudLich[1]->text());
-    s.Lichych = Vb::Val(txtSudLich[2]->text());
-    s.Max_Dvojic = Vb::Val(Text7->text());
-    s.Max_Trojic = Vb::Val(Text8->text());
+        s.Omezeni[i] = Hodnota(txtOmezeni[i]);
+    s.Max_Tretich_Cen = Hodnota(Text4);
+    s.Limit_Dekada = Hodnota(txtCisel_V_Dekade);
+    s.Rozptyl = Hodnota(txtSudLich[0]);
+    s.Sudych = Hodnota(txtSudLich[1]);
+    s.Lichych = Hodnota(txtSudLich[2]);
+    s.Max_Dvojic = Hodnota(Text7);
+    s.Max_Trojic = Hodnota(Text8);
     for (std::size_t i = 0; i < 2; ++i) {
-        s.Suma[i] = Vb::Val(txtSuma[i]->text());
-        s.Rozsah[i] = Vb::Val(txtRozsah_Min_Max[i]->text());
+        s.Suma[i] = Hodnota(txtSuma[i]);
+        s.Rozsah[i] = Hodnota(txtRozsah_Min_Max[i]);
     }
-    s.Prunik = Vb::Val(txtPrunik->text());
+    s.Prunik = Hodnota(txtPrunik);
 }
 
 // ---- What the window asks ----
 
 void frmGeneruj_Omezeni::Vypln_Zadani(Zadani_Generatoru& z) const {
     for (std::size_t i = 0; i < Check1.size(); ++i)
-        z.Check1[i] = Check1[i]->isChecked() && Check1[i]->isEnabled() && !Check1[i]->isHidden();
+        z.Check1[i] = Check1[i]->isChecked() && !Check1[i]->isHidden();
     for (std::size_t i = 0; i < 3; ++i)
-        z.Omezeni[i] = Vb::Val(txtOmezeni[i]->text());
-    z.Max_Tretich_Cen = Vb::Val(Text4->text());
-    z.Vynech_Tahy_1_Od = Vb::Val(Vynech_Tahy_1_Od->text());
-    z.Vynech_Tahy_2_Od = Vb::Val(Vynech_Tahy_2_Od->text());
-    z.Limit_Dekada = Vb::Val(txtCisel_V_Dekade->text());
-    z.Rozptyl = Vb::Val(txtSudLich[0]->text());
-    z.Sudych = Vb::Val(txtSudLich[1]->text());
-    z.Lichych = Vb::Val(txtSudLich[2]->text());
-    z.Max_Dvojic = Vb::Val(Text7->text());
-    z.Max_Trojic = Vb::Val(Text8->text());
+        z.Omezeni[i] = Hodnota(txtOmezeni[i]);
+    z.Max_Tretich_Cen = Hodnota(Text4);
+    z.Vynech_Tahy_1_Od = Hodnota(Vynech_Tahy_1_Od);
+    z.Vynech_Tahy_2_Od = Hodnota(Vynech_Tahy_2_Od);
+    z.Limit_Dekada = Hodnota(txtCisel_V_Dekade);
+    z.Rozptyl = Hodnota(txtSudLich[0]);
+    z.Sudych = Hodnota(txtSudLich[1]);
+    z.Lichych = Hodnota(txtSudLich[2]);
+    z.Max_Dvojic = Hodnota(Text7);
+    z.Max_Trojic = Hodnota(Text8);
     for (std::size_t i = 0; i < 2; ++i) {
-        z.Suma[i] = Vb::Val(txtSuma[i]->text());
-        z.Rozsah[i] = Vb::Val(txtRozsah_Min_Max[i]->text());
+        z.Suma[i] = Hodnota(txtSuma[i]);
+        z.Rozsah[i] = Hodnota(txtRozsah_Min_Max[i]);
     }
-    z.Prunik = Vb::Val(txtPrunik->text());
+    z.Prunik = Hodnota(txtPrunik);
     const Nastaveni_Zaznam& n = Sezeni.Nastaveni;
     z.Pocet_Pruchodu = n.Pocet_Pruchodu;
     z.Auto_Oprava = n.Auto_Oprava;
     z.Opakovat_Volba = n.Opakovat_Volba;
-    z.Tahy_1 = Je_Archiv() ? &Sezeni.Archiv.Tahy_1 : nullptr;
-    z.Tahy_2 = Je_Archiv() ? &Sezeni.Archiv.Tahy_2 : nullptr;
+    const bool archiv = Je_Archiv();
+    z.Tahy_1 = archiv ? &Sezeni.Archiv.Tahy_1 : nullptr;
+    z.Tahy_2 = archiv ? &Sezeni.Archiv.Tahy_2 : nullptr;
 }
 
 void frmGeneruj_Omezeni::Po_Behu(double max_tretich_cen) {
@@ -284,12 +326,16 @@ void frmGeneruj_Omezeni::Po_Behu(double max_tretich_cen) {
 }
 
 void frmGeneruj_Omezeni::Pocet_Tipu_Zmenen(int tipu) {
+    if (Drzet_Text4)
+        return;
     Text4->setText(Cislo(Pocatecni_Max_Tretich_Cen(tipu, Sezeni.Nastaveni.Auto_Oprava)));
 }
 
 void frmGeneruj_Omezeni::Tutovky_Zmeneny(int pocet_tutovek) {
+    // The tutovky stand in every tip, so no more than 5 - tutovky of the drawn numbers can be
+    // shared with the tip before.
     Pocet_Tutovek = pocet_tutovek;
-    if (Check1[10]->isChecked() && pocet_tutovek + Vb::Val(txtPrunik->text()) > 5)
+    if (Check1[10]->isChecked() && pocet_tutovek + Hodnota(txtPrunik) > 5)
         txtPrunik->setText(Cislo(5 - pocet_tutovek));
 }
 
@@ -298,6 +344,7 @@ void frmGeneruj_Omezeni::Zamkni_Pro_Beh(bool zamknout) {
         Povol_Omezeni();
         return;
     }
+    // The run pumps events: nothing here may change under it.
     for (std::size_t i = 0; i < Check1.size(); ++i) {
         Check1[i]->setEnabled(false);
         Povol_Limity(int(i));
@@ -311,10 +358,10 @@ void frmGeneruj_Omezeni::Zakaz_Omezeni() {
         Check1[i]->setEnabled(false);
         Povol_Limity(int(i));
     }
-    for (const int i : {2, 4}) {
-        Check1[std::size_t(i)]->hide();
-        Popisky[std::size_t(i)]->hide();
-        for (QLineEdit* pole : Limity[std::size_t(i)])
+    for (const std::size_t i : {std::size_t(2), std::size_t(4)}) {
+        Check1[i]->hide();
+        Popisky[i]->hide();
+        for (QLineEdit* pole : Limity[i])
             pole->hide();
     }
 }

@@ -30,7 +30,8 @@ public:
     // After a run: Text4 shows the limit the automatic correction may have raised.
     void Po_Behu(double max_tretich_cen);
 
-    // The number of tips changed: Text4 takes its start value.
+    // The number of tips changed: Text4 takes its start value. Not while a window opened before is
+    // still loading (the panel not yet shown): then the restored limit stays.
     void Pocet_Tipu_Zmenen(int tipu);
     // The tutovky changed: with Check1(10) on, txtPrunik keeps Pocet_Tutovek + txtPrunik <= 5.
     void Tutovky_Zmeneny(int pocet_tutovek);
@@ -54,6 +55,8 @@ public:
     QLineEdit* txtPrunik;
 
 private:
+    bool eventFilter(QObject* objekt, QEvent* udalost) override;
+    void showEvent(QShowEvent* udalost) override;
     void Obnov();
     bool Je_Archiv() const;
     void Povol_Limity(int index);
@@ -68,5 +71,6 @@ private:
     std::array<QLabel*, 11> Popisky{};                 // lblOmezeni(0..10)
     std::array<std::vector<QLineEdit*>, 11> Limity{}; // the limit boxes of each Check1
     bool Nastavuje = false;                           // a box is being written: its echo is not a change
+    bool Drzet_Text4 = false;                         // a restored Text4 outlives the window's load
     int Pocet_Tutovek = 0;
 };
