@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
     cmake ninja-build g++ pkg-config
-    qt6-base-dev qt6-svg-dev qt6-charts-dev qt6-translations-l10n libgl1-mesa-dev libcurl4-openssl-dev
+    qt6-base-dev libqt6opengl6-dev qt6-svg-dev qt6-charts-dev qt6-translations-l10n libgl1-mesa-dev libcurl4-openssl-dev
     libbenchmark-dev
     xvfb xauth poppler-utils python3 python3-pyftpdlib
 )

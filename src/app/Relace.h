@@ -4,6 +4,7 @@
 // (clock, dialogs, the user's settings store, the window services) are set by whoever makes the
 // session.
 
+#include "analysis/Analyza_Tahu.h"
 #include "app/Random.h"
 #include "app/pTikety.h"
 #include "data/Archiv_Tahu.h"
@@ -50,6 +51,9 @@ struct Relace {
     Stav_Tipu Tipy;
     Stav_Generatoru Generator;
     Ulozena_Cisla_Tahu Vyhodnoceni; // the draw boxes of the tip list, kept between openings
+    Stav_Analyzy Analyza;
+    // Vybrana_Cisla: the numbers picked out of the analysis, the draw list or the viewer, [1..49].
+    std::array<uint8_t, 50> Vybrana_Cisla{};
     // Bettors of the loaded list; above 0 the list sets the count of tips of the generator.
     int Pocet_Sazejicich = 0;
     Nastaveni_Zaznam Nastaveni;

@@ -19,6 +19,7 @@
 #include "data/Nastaveni.h"
 #include "data/Nedavne_Soubory.h"
 #include "data/Soubory.h"
+#include "analysis/frmAnalyzaTahu.h"
 #include "generator/frmGeneruj.h"
 #include "tips/frmVypisTipu.h"
 
@@ -98,6 +99,7 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
     frmPrehled::Pripoj_Prikazy(*this);
     frmVypisTipu::Pripoj_Prikazy(*this);
     frmGeneruj::Pripoj_Prikazy(*this);
+    frmAnalyzaTahu::Pripoj_Prikazy(*this);
     Obnov_Povoleni();
 
     // A click anywhere on the main window sends the splash and the notice away; the click may
@@ -215,7 +217,7 @@ bool frmMDITombi::Je_Nehotovy(const QAction* prikaz) const {
     const QAction* const nehotove[] = {
         mnuPripojSouborTipu, mnuSetriditSouborTipu,
         mnuExportTipu,       mnuImportTipu,         mnuTiskTiketu,  mnuVypisTahu,       mnuRozsirSouborTahy,
-        mnuAnalyza,          mnuAnalyzaAutomat,     mnuVypisAnalyz, mnuDownload,        mnuOtevriSeznam,
+        mnuVypisAnalyz,      mnuDownload,           mnuOtevriSeznam,
         mnuNovySeznam,       mnuVypisSeznamu,       mnuUvolnit,     mnuKonfigurace,     mnuWebTombiNovaVer,
     };
     return std::find(std::begin(nehotove), std::end(nehotove), prikaz) != std::end(nehotove) ||

@@ -23,7 +23,9 @@ const char* const Pouziti =
     "  tombi-cli evaluate --tipech SOUBOR.tip \"B0 .. B6\" [\"B0 .. B6\"] [--ceny ...]\n"
     "  tombi-cli evaluate --tazich ARCHIV.sez N1 N2 \"B0 .. B6\" [\"B0 .. B6\"] [--ceny ...]\n"
     "  tombi-cli evaluate --nahodne SOUBOR.tip [--seminko S] [--ceny ...]\n"
-    "  tombi-cli evaluate --srovnani K SOUBOR.tip ARCHIV.sez N1 N2 [--seminko S] [--ceny ...]\n";
+    "  tombi-cli evaluate --srovnani K SOUBOR.tip ARCHIV.sez N1 N2 [--seminko S] [--ceny ...]\n"
+    "  tombi-cli analyse ARCHIV.sez STAT N1 N2 [--dodatkova] [--od T] [--rezim 0|1]\n"
+    "  tombi-cli analyse ARCHIV.sez STAT --od-do OD1 DO1 OD2 DO2 [--dodatkova] [--od T] [--rezim 0|1]\n";
 
 namespace {
 

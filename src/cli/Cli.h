@@ -52,3 +52,4 @@ std::optional<QList<int>> Cisla_Volby(const QString& text, int pocet_od, int poc
 // The commands.
 int Generovani(const QStringList& args);
 int Vyhodnoceni(const QStringList& args);
+int Analyza(const QStringList& args);

@@ -179,5 +179,7 @@ int main(int argc, char** argv) {
         return Generovani(args);
     if (prikaz == u"evaluate")
         return Vyhodnoceni(args);
+    if (prikaz == u"analyse")
+        return Analyza(args);
     return Spatne_Pouziti(u"Neznámý příkaz \""_qs + prikaz + u"\"."_qs);
 }

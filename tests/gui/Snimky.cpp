@@ -21,6 +21,9 @@
 #include "tips/frmVypisTipuVsech.h"
 #include "app/frmPrehled.h"
 #include "app/frmTombi_uvod.h"
+#include "analysis/frmAnalyzaTahu.h"
+#include "analysis/frmAnalyzaTahu_Graf.h"
+#include <QTabWidget>
 #include "data/Chyby_A_Prehled.h"
 #include "data/Soubory.h"
 
@@ -176,6 +179,32 @@ int main(int argc, char** argv) {
                  tipy += u"%1%2%3%4%5%6\r\n"_qs.arg(3, 3).arg(7 + i % 3, 3).arg(12 + i, 3).arg(19, 3).arg(25 + i, 3).arg(41, 3);
              vsech->Zobraz(tipy, u" 3 41 7 8 9 12 13 14 15 16 17 18 19 25 26 27"_qs);
              vsech->Umisti(nullptr);
+             return prostredi.Okno.release();
+         }},
+        // The frequency of numbers over the last 52 draws, as the report and as the chart.
+        {u"frmAnalyzaTahu"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 26));
+             prostredi.Spust().resize(1000, 720);
+             prostredi.Prikaz(u"mnuAnalyza"_qs)->trigger();
+             auto* okno = prostredi.Okno->Najdi_Okno<frmAnalyzaTahu>();
+             okno->txtPocet_1Tahu->setText(u"52"_qs);
+             okno->txtPocet_2Tahu->setText(u"52"_qs);
+             okno->cmdOK->click();
+             return prostredi.Okno.release();
+         }},
+        {u"frmAnalyzaTahu_Graf"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 26));
+             prostredi.Spust().resize(1000, 720);
+             prostredi.Prikaz(u"mnuAnalyza"_qs)->trigger();
+             auto* okno = prostredi.Okno->Najdi_Okno<frmAnalyzaTahu>();
+             okno->txtPocet_1Tahu->setText(u"52"_qs);
+             okno->txtPocet_2Tahu->setText(u"52"_qs);
+             okno->cmdOK->click();
+             prostredi.Data->Vybrana_Cisla[7] = prostredi.Data->Vybrana_Cisla[36] = 1;
+             okno->Graf->Zvyrazni(prostredi.Data->Vybrana_Cisla);
+             okno->Zalozky->setCurrentIndex(1);
              return prostredi.Okno.release();
          }},
         // The generator with numbers taken from the status band, a tutovka by a right click and two

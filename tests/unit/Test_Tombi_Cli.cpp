@@ -140,6 +140,27 @@ private slots:
         QCOMPARE(srovnani.Radky[4], u"seminko 3"_qs);
     }
 
+    void Analyza() {
+        QTemporaryDir dir;
+        const QString sez = dir.filePath(u"SpN_tahy.sez"_qs);
+        QCOMPARE(Spust({u"import"_qs, u"--csv"_qs, QStringLiteral(TOMBI_HISTORIE), u"--den"_qs, u"nedele"_qs,
+                        u"--out"_qs, sez})
+                     .Kod,
+                 0);
+        const Beh zpetne = Spust({u"analyse"_qs, sez, u"0"_qs, u"52"_qs, u"52"_qs});
+        QCOMPARE(zpetne.Kod, 0);
+        QVERIFY(zpetne.Radky.value(0).startsWith(u"Četnost"_qs));
+        // The same slice given by indices gives the same report.
+        const Beh archiv = Spust({u"archive"_qs, sez, u"--list"_qs, u"1"_qs});
+        const int posledni = archiv.Radky.value(0).section(u' ', 3, 3).toInt();
+        const int druhy = archiv.Radky.value(0).section(u' ', 5, 5).toInt();
+        const Beh od_do = Spust({u"analyse"_qs, sez, u"0"_qs, u"--od-do"_qs, QString::number(posledni - 51),
+                                 QString::number(posledni), QString::number(druhy - 51), QString::number(druhy)});
+        QCOMPARE(od_do.Radky, zpetne.Radky);
+        QCOMPARE(Spust({u"analyse"_qs, sez, u"10"_qs, u"5"_qs, u"5"_qs}).Kod, 2);
+        QVERIFY(Spust({u"analyse"_qs, sez, u"7"_qs, u"52"_qs, u"52"_qs, u"--dodatkova"_qs}).Radky.value(0).endsWith(u" včetně dodatkových"_qs));
+    }
+
     void Archiv_A_Tipy() {
         QTemporaryDir dir;
         const QString sez = dir.filePath(u"SpS_tahy.sez"_qs);
