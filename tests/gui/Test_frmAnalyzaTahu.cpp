@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -79,6 +80,17 @@ private slots:
         okno->RichTextBox1->selectAll();
         QTest::mouseRelease(okno->RichTextBox1->viewport(), Qt::LeftButton);
         QCOMPARE(prostredi.Okno->Stav()->txtRozpisAktivni->text(), u" 3 12 15"_qs);
+
+        // The report on paper, read back from PDF.
+        okno->optTyp[0]->click();
+        QTest::mouseClick(okno->cmdOK, Qt::LeftButton);
+        prostredi.Dialogy.Pdf = prostredi.Cesta(u"analyza.pdf"_qs);
+        prostredi.Dialogy.Tiskarny.enqueue(true);
+        QTest::mouseClick(okno->cmdTisk, Qt::LeftButton);
+        QProcess pdf;
+        pdf.start(u"pdftotext"_qs, {prostredi.Dialogy.Pdf, u"-"_qs});
+        pdf.waitForFinished(30000);
+        QVERIFY(QString::fromUtf8(pdf.readAllStandardOutput()).contains(u"Četnost tažených čísel"_qs));
 
         // The chart of the frequency, saved as a picture.
         okno->optTyp[0]->click();
