@@ -172,6 +172,33 @@ int Sirka_V_Twipech(const QString& text) {
 // stop as in the lines with wider cells.
 constexpr int Uzka_Bunka = 670;
 
+// The report of a frequency: the lowest and highest count of each series from their starting
+// values (both tests run for every number), the groups, and the chart.
+Vysledek_Analyzy Cetnosti(const QString& nadpis, const Pocty_Cisel& pocty, int nejnizsi_od, int nejvyssi_od,
+                          double prah, bool s_prumerem) {
+    Vysledek_Analyzy v;
+    v.Nadpis = nadpis;
+    for (int s = 0; s < 2; ++s) {
+        const auto& p = pocty[std::size_t(s)];
+        int nejnizsi = nejnizsi_od;
+        int nejvyssi = nejvyssi_od;
+        for (int n = 1; n <= Cisel; ++n) {
+            if (p[std::size_t(n)] > nejvyssi)
+                nejvyssi = p[std::size_t(n)];
+            if (p[std::size_t(n)] < nejnizsi)
+                nejnizsi = p[std::size_t(n)];
+        }
+        QString& text = s == 0 ? v.Text_1 : v.Text_2;
+        text.reserve(1024);
+        text += Slova_Rad[s];
+        Skupiny_Cetnosti(text, p, nejnizsi, nejvyssi, prah);
+        v.Min_Pocet[std::size_t(s)] = nejnizsi;
+        v.Max_Pocet[std::size_t(s)] = nejvyssi;
+    }
+    v.Graf = Graf_Cetnosti(v.Nadpis, pocty, s_prumerem);
+    return v;
+}
+
 } // namespace
 
 Vysledek_Analyzy A_Cetnost_Cisel(const Zadani_Analyzy& z, const Prubeh& prubeh) {
@@ -191,28 +218,7 @@ Vysledek_Analyzy A_Cetnost_Cisel(const Zadani_Analyzy& z, const Prubeh& prubeh) 
     if (!dobehlo)
         return Selhani("A_Cetnost_Cisel");
 
-    Vysledek_Analyzy v;
-    v.Nadpis = QStringLiteral("Četnost tažených čísel");
-    for (int s = 0; s < 2; ++s) {
-        const auto& p = pocty[std::size_t(s)];
-        // Both tests run for every number, from these starting values.
-        int nejnizsi = 100;
-        int nejvyssi = 1;
-        for (int n = 1; n <= Cisel; ++n) {
-            if (p[std::size_t(n)] > nejvyssi)
-                nejvyssi = p[std::size_t(n)];
-            if (p[std::size_t(n)] < nejnizsi)
-                nejnizsi = p[std::size_t(n)];
-        }
-        QString& text = s == 0 ? v.Text_1 : v.Text_2;
-        text.reserve(1024);
-        text += Slova_Rad[s];
-        Skupiny_Cetnosti(text, p, nejnizsi, nejvyssi, z.Prah);
-        v.Min_Pocet[std::size_t(s)] = nejnizsi;
-        v.Max_Pocet[std::size_t(s)] = nejvyssi;
-    }
-    v.Graf = Graf_Cetnosti(v.Nadpis, pocty, true);
-    return v;
+    return Cetnosti(QStringLiteral("Četnost tažených čísel"), pocty, 100, 1, z.Prah, true);
 }
 
 Vysledek_Analyzy A_Cetnost_Dodatkovych(const Zadani_Analyzy& z, const Prubeh& prubeh) {
@@ -227,27 +233,7 @@ Vysledek_Analyzy A_Cetnost_Dodatkovych(const Zadani_Analyzy& z, const Prubeh& pr
     if (!dobehlo)
         return Selhani("A_Dvojice_Cisel");
 
-    Vysledek_Analyzy v;
-    v.Nadpis = QStringLiteral("Četnost tažených dodatkových čísel");
-    for (int s = 0; s < 2; ++s) {
-        const auto& p = pocty[std::size_t(s)];
-        int nejnizsi = 10;
-        int nejvyssi = 0;
-        for (int n = 1; n <= Cisel; ++n) {
-            if (p[std::size_t(n)] > nejvyssi)
-                nejvyssi = p[std::size_t(n)];
-            if (p[std::size_t(n)] < nejnizsi)
-                nejnizsi = p[std::size_t(n)];
-        }
-        QString& text = s == 0 ? v.Text_1 : v.Text_2;
-        text.reserve(512);
-        text += Slova_Rad[s];
-        Skupiny_Cetnosti(text, p, nejnizsi, nejvyssi, z.Prah);
-        v.Min_Pocet[std::size_t(s)] = nejnizsi;
-        v.Max_Pocet[std::size_t(s)] = nejvyssi;
-    }
-    v.Graf = Graf_Cetnosti(v.Nadpis, pocty, false);
-    return v;
+    return Cetnosti(QStringLiteral("Četnost tažených dodatkových čísel"), pocty, 10, 0, z.Prah, false);
 }
 
 Vysledek_Analyzy A_Dvojice_Cisel(const Zadani_Analyzy& z, const Prubeh& prubeh) {

@@ -1,6 +1,7 @@
 #include "Bajty.h"
 
 #include "data/Soubory.h"
+#include "net/Import_Tahu.h"
 
 #include <QFile>
 #include <QTest>
@@ -64,4 +65,17 @@ int64_t Spicka_Pameti_MiB() {
     rusage r{};
     getrusage(RUSAGE_SELF, &r);
     return r.ru_maxrss / 1024; // KiB on Linux
+}
+
+Archiv_Tahu Archiv_Z_Historie(Den den) {
+    QFile csv(QStringLiteral(TOMBI_HISTORIE));
+    Archiv_Tahu a;
+    if (!csv.open(QIODevice::ReadOnly))
+        return a;
+    Nastav_Den_Archivu(a, den);
+    const Import_Vysledek import = Importuj_Csv(csv.readAll(), den);
+    a.Pole_Tahu = import.Roky;
+    a.Pocet_Let = import.Pocet_Let();
+    Priprav_Seznamy_Tahu(a);
+    return a;
 }

@@ -4,6 +4,7 @@
 // that fills up halfway through a write.
 
 #include "app/Vysledek.h"
+#include "data/Archiv_Tahu.h"
 
 #include <QByteArray>
 #include <QString>
@@ -40,3 +41,6 @@ bool Podle_Prav_Souboru(const std::function<void()>& f);
 
 // The peak memory of the process so far, in MiB.
 int64_t Spicka_Pameti_MiB();
+
+// The archive of a draw day imported from the operator's history (TOMBI_HISTORIE), lists ready.
+Archiv_Tahu Archiv_Z_Historie(Den den);

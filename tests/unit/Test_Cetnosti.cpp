@@ -1,5 +1,6 @@
 // Frequency, pair and triple statistics: reports over the newest 52 Sunday draws compared with
 // files, and the odd corners of counting and listing on small lists made by hand.
+#include "Bajty.h"
 #include "analysis/Analyza_Tahu.h"
 #include "net/Import_Tahu.h"
 
@@ -37,14 +38,7 @@ private slots:
     // Every statistic on fresh copies of the Sunday lists (the pair statistics reorder rows). A
     // report that differs is written to the temp folder for a diff.
     void Vypisy_Nedele() {
-        QFile csv(QStringLiteral(TOMBI_HISTORIE));
-        QVERIFY(csv.open(QIODevice::ReadOnly));
-        Archiv_Tahu a;
-        Nastav_Den_Archivu(a, Den::Nedele);
-        const Import_Vysledek import = Importuj_Csv(csv.readAll(), Den::Nedele);
-        a.Pole_Tahu = import.Roky;
-        a.Pocet_Let = import.Pocet_Let();
-        Priprav_Seznamy_Tahu(a);
+        Archiv_Tahu a = Archiv_Z_Historie(Den::Nedele);
         QVERIFY(a.Tahy_1.size() > 1000);
 
         using Statistika = Vysledek_Analyzy (*)(const Zadani_Analyzy&, const Prubeh&);

@@ -1,5 +1,6 @@
 // Rows and diagonals, even/odd, averages, sums and intervals: reports over the newest 52 Sunday
 // draws compared with files, and the odd corners of each statistic on small lists made by hand.
+#include "Bajty.h"
 #include "analysis/Analyza_Tahu.h"
 #include "net/Import_Tahu.h"
 
@@ -42,14 +43,7 @@ private slots:
     // folder for a diff. Over the whole archive, every six-number draw has one row pattern, and a
     // second run gives the same report.
     void Vypisy_Nedele() {
-        QFile csv(QStringLiteral(TOMBI_HISTORIE));
-        QVERIFY(csv.open(QIODevice::ReadOnly));
-        Archiv_Tahu a;
-        Nastav_Den_Archivu(a, Den::Nedele);
-        const Import_Vysledek import = Importuj_Csv(csv.readAll(), Den::Nedele);
-        a.Pole_Tahu = import.Roky;
-        a.Pocet_Let = import.Pocet_Let();
-        Priprav_Seznamy_Tahu(a);
+        Archiv_Tahu a = Archiv_Z_Historie(Den::Nedele);
         QVERIFY(a.Tahy_1.size() > 1000);
 
         using Statistika = Vysledek_Analyzy (*)(const Zadani_Analyzy&, const Prubeh&);
