@@ -490,11 +490,10 @@ void frmAnalyzaTahu::cmdVymaz_Click() {
 void frmAnalyzaTahu::cmdTisk_Click() {
     if (!Sezeni.Dialog->Vybrat_Tiskarnu())
         return;
-    frmTiskarna tisk(Sezeni.Dialog->Tiskarna());
-    if (!tisk.Ok()) {
-        Sezeni.Sluzby->Zprava(u"Není zapnuta tiskárna !"_qs);
+    const std::unique_ptr<frmTiskarna> otevrena = frmTiskarna::Otevri(Sezeni.Dialog->Tiskarna(), Sezeni.Sluzby);
+    if (!otevrena)
         return;
-    }
+    frmTiskarna& tisk = *otevrena;
     tisk.Pismo(u"DejaVu Sans Mono"_qs);
     tisk.Velikost(8);
     tisk.Radek();

@@ -4,6 +4,7 @@
 #include "app/modTombi.h"
 
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -51,6 +52,36 @@ protected:
 
 int Cele_Cislo(const QLineEdit* pole) {
     return int(std::clamp(Vb::Val(pole->text()), -1e9, 1e9));
+}
+
+QWidget* Pod_Slovy(QWidget* rodic, const QLabel* nadpis, const QStringList& slova, std::span<QLabel* const> popisky,
+                   const QString& vzor_posledniho, QLabel* zahlavi) {
+    auto* radek = new QWidget(rodic);
+    auto* rozlozeni = new QHBoxLayout(radek);
+    rozlozeni->setContentsMargins(0, 0, 0, 0);
+    rozlozeni->setSpacing(0);
+    const QFontMetrics metrika = nadpis->fontMetrics();
+    const QString text = nadpis->text();
+    const auto zacatek = [&](qsizetype i) { return metrika.horizontalAdvance(text.left(text.indexOf(slova[i]))); };
+    int x = 0;
+    if (zahlavi != nullptr) {
+        x = zacatek(0);
+        zahlavi->setFixedWidth(x);
+        rozlozeni->addWidget(zahlavi);
+    }
+    for (qsizetype i = 0; i < qsizetype(popisky.size()); ++i) {
+        const int od = zacatek(i);
+        const int do_ = i + 1 < slova.size()
+                            ? zacatek(i + 1)
+                            : od + std::max(metrika.horizontalAdvance(slova[i]), metrika.horizontalAdvance(vzor_posledniho));
+        const int sirka = std::max(8, do_ - od - 4);
+        popisky[std::size_t(i)]->setFixedWidth(sirka);
+        rozlozeni->addSpacing(od - x);
+        rozlozeni->addWidget(popisky[std::size_t(i)]);
+        x = od + sirka;
+    }
+    rozlozeni->addStretch();
+    return radek;
 }
 
 void Jen_Cislice(QLineEdit* pole) {

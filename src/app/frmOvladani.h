@@ -5,9 +5,13 @@
 
 #include "app/Tabulka_Textu.h"
 
+#include <QLabel>
 #include <QLineEdit>
+#include <QStringList>
 #include <QString>
 #include <QWidget>
+
+#include <span>
 
 namespace modNastaveni_Ovladani {
 
@@ -46,6 +50,13 @@ struct Texty_Okna {
     QString Text(const QString& klic) const { return Tabulka_Textu::Programu().Text(Jmeno + u'.' + klic); }
     template <class T> T* Pojmenuj(T* prvek, const QString& jmeno) const { return Prvek(prvek, Jmeno, jmeno); }
 };
+
+// A row of value labels, label i under word i of the heading `nadpis`: the heading's blanks place
+// the columns, so each value starts where its word does and reaches to the next word; the last one
+// is as wide as its word or `vzor_posledniho`. A row heading, if given, fills the room before the
+// first word.
+QWidget* Pod_Slovy(QWidget* rodic, const QLabel* nadpis, const QStringList& slova, std::span<QLabel* const> popisky,
+                   const QString& vzor_posledniho, QLabel* zahlavi = nullptr);
 
 // Lets the box take only the digits 0..9 (and deletion), as Filtr_Klavesy does for every key.
 void Jen_Cislice(QLineEdit* pole);

@@ -1,5 +1,7 @@
 #include "app/frmTiskarna.h"
 
+#include "app/Sluzby_Oken.h"
+
 #include <QFontMetricsF>
 #include <QPrinter>
 
@@ -8,6 +10,15 @@
 frmTiskarna::frmTiskarna(QPrinter& tiskarna) : Tiskarna(tiskarna), Font(QStringLiteral("DejaVu Sans"), 10) {
     if (Kreslic.begin(&Tiskarna))
         Kreslic.setFont(QFont(Font, &Tiskarna));
+}
+
+std::unique_ptr<frmTiskarna> frmTiskarna::Otevri(QPrinter& tiskarna, Sluzby_Oken* sluzby) {
+    auto tisk = std::make_unique<frmTiskarna>(tiskarna);
+    if (tisk->Ok())
+        return tisk;
+    if (sluzby != nullptr)
+        sluzby->Zprava(QStringLiteral("Není zapnuta tiskárna !"));
+    return nullptr;
 }
 
 frmTiskarna::~frmTiskarna() {

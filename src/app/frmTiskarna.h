@@ -6,7 +6,10 @@
 #include <QPainter>
 #include <QString>
 
+#include <memory>
+
 class QPrinter;
+class Sluzby_Oken;
 
 class frmTiskarna final {
 public:
@@ -17,6 +20,9 @@ public:
     frmTiskarna& operator=(const frmTiskarna&) = delete;
 
     bool Ok() const { return Kreslic.isActive(); }
+    // A document on the printer, or none when the printer does not take it: then the notice
+    // "Není zapnuta tiskárna !" is shown.
+    static std::unique_ptr<frmTiskarna> Otevri(QPrinter& tiskarna, Sluzby_Oken* sluzby);
     void Pismo(const QString& jmeno);
     void Velikost(double body);
     // Text at the current place; the line goes on.

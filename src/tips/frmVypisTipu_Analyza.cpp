@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 #include <span>
 
+using modNastaveni_Ovladani::Pod_Slovy;
 using modNastaveni_Ovladani::Prvek;
 
 namespace {
@@ -26,33 +27,6 @@ QLabel* Hodnota(QWidget* rodic, const QString& jmeno) {
     popisek->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     popisek->setBackgroundRole(QPalette::Window);
     return popisek;
-}
-
-// A row of value labels, label i under word i of the heading: the heading's blanks place the
-// columns, so each value starts where its word does and reaches to the next word.
-QWidget* Pod_Slovy(QWidget* rodic, const QLabel* nadpis, const QStringList& slova, std::span<QLabel* const> popisky) {
-    auto* radek = new QWidget(rodic);
-    auto* rozlozeni = new QHBoxLayout(radek);
-    rozlozeni->setContentsMargins(0, 0, 0, 0);
-    rozlozeni->setSpacing(0);
-    const QFontMetrics metrika = nadpis->fontMetrics();
-    const QString text = nadpis->text();
-    const auto zacatek = [&](qsizetype i) { return metrika.horizontalAdvance(text.left(text.indexOf(slova[i]))); };
-    int x = 0;
-    for (qsizetype i = 0; i < qsizetype(popisky.size()); ++i) {
-        const int od = zacatek(i);
-        const int do_ = i + 1 < slova.size() ? zacatek(i + 1)
-                                             : od + std::max(metrika.horizontalAdvance(slova[i]),
-                                                             metrika.horizontalAdvance(u"00 000"_qs));
-        QLabel* popisek = popisky[std::size_t(i)];
-        const int sirka = std::max(8, do_ - od - 4);
-        popisek->setFixedWidth(sirka);
-        rozlozeni->addSpacing(od - x);
-        rozlozeni->addWidget(popisek);
-        x = od + sirka;
-    }
-    rozlozeni->addStretch();
-    return radek;
 }
 
 } // namespace
@@ -87,7 +61,7 @@ frmVypisTipu_Analyza::frmVypisTipu_Analyza(Relace& sezeni, QWidget* parent)
     tipy->addWidget(Label19, 1, 1);
     tipy->addWidget(Label21, 2, 0);
     tipy->addWidget(
-        Pod_Slovy(fraAnalyza_On_Line, Label19, {u"pátá"_qs, u"čtvrtá"_qs, u"třetí"_qs, u"první"_qs}, lblCena), 2, 1);
+        Pod_Slovy(fraAnalyza_On_Line, Label19, {u"pátá"_qs, u"čtvrtá"_qs, u"třetí"_qs, u"první"_qs}, lblCena, u"00 000"_qs), 2, 1);
     tipy->setColumnStretch(1, 1);
 
     // The history of the number in both draws.
@@ -98,9 +72,9 @@ frmVypisTipu_Analyza::frmVypisTipu_Analyza(Relace& sezeni, QWidget* parent)
     const std::array<QLabel*, 2> naposled{lblNaposled_1tah, lblNaposled_2tah};
     const QStringList sloupce{u"1."_qs, u"2."_qs};
     tahy->addWidget(Label18, 1, 0);
-    tahy->addWidget(Pod_Slovy(Frame7, Label17, sloupce, celkem), 1, 1);
+    tahy->addWidget(Pod_Slovy(Frame7, Label17, sloupce, celkem, u"00 000"_qs), 1, 1);
     tahy->addWidget(Label14, 2, 0);
-    tahy->addWidget(Pod_Slovy(Frame7, Label17, sloupce, naposled), 2, 1);
+    tahy->addWidget(Pod_Slovy(Frame7, Label17, sloupce, naposled, u"00 000"_qs), 2, 1);
     tahy->setColumnStretch(1, 1);
 
     auto* rozlozeni = new QVBoxLayout(this);

@@ -20,6 +20,7 @@
 #include <utility>
 
 using modNastaveni_Ovladani::Indexem;
+using modNastaveni_Ovladani::Pod_Slovy;
 using modNastaveni_Ovladani::Prvek;
 using namespace modAnalyza_Tipu;
 
@@ -33,38 +34,6 @@ QLabel* Pocet(QWidget* rodic, const QString& jmeno) {
     popisek->setAutoFillBackground(true);
     popisek->setAlignment(Qt::AlignCenter);
     return popisek;
-}
-
-// A row of count labels, label i under word i of the heading, so that the heading's blanks place
-// the columns. The row's own heading, if any, fills the room before the first word.
-QWidget* Pod_Slovy(QWidget* rodic, const QLabel* nadpis, const QStringList& slova, std::span<QLabel* const> popisky,
-                   QLabel* zahlavi = nullptr) {
-    auto* radek = new QWidget(rodic);
-    auto* rozlozeni = new QHBoxLayout(radek);
-    rozlozeni->setContentsMargins(0, 0, 0, 0);
-    rozlozeni->setSpacing(0);
-    const QFontMetrics metrika = nadpis->fontMetrics();
-    const QString text = nadpis->text();
-    const auto zacatek = [&](qsizetype i) { return metrika.horizontalAdvance(text.left(text.indexOf(slova[i]))); };
-    int x = 0;
-    if (zahlavi != nullptr) {
-        x = zacatek(0);
-        zahlavi->setFixedWidth(x);
-        rozlozeni->addWidget(zahlavi);
-    }
-    for (qsizetype i = 0; i < qsizetype(popisky.size()); ++i) {
-        const int od = zacatek(i);
-        const int do_ = i + 1 < slova.size()
-                            ? zacatek(i + 1)
-                            : od + std::max(metrika.horizontalAdvance(slova[i]), metrika.horizontalAdvance(u"0000"_qs));
-        const int sirka = std::max(8, do_ - od - 4);
-        popisky[std::size_t(i)]->setFixedWidth(sirka);
-        rozlozeni->addSpacing(od - x);
-        rozlozeni->addWidget(popisky[std::size_t(i)]);
-        x = od + sirka;
-    }
-    rozlozeni->addStretch();
-    return radek;
 }
 
 QHBoxLayout* Vedle(QWidget* a, QWidget* b) {
@@ -112,14 +81,14 @@ frmVypisTipu_Vyber::frmVypisTipu_Vyber(Relace& sezeni, QWidget* parent)
     vnitrek->setSpacing(3);
     vnitrek->addWidget(Label25);
     const QStringList pomery{u"6/0"_qs, u"5/1"_qs, u"4/2"_qs, u"3/3"_qs, u"2/4"_qs, u"1/5"_qs, u"0/6"_qs};
-    vnitrek->addWidget(Pod_Slovy(fraVyber_Tipu, Label25, pomery, lblPomer_SL));
+    vnitrek->addWidget(Pod_Slovy(fraVyber_Tipu, Label25, pomery, lblPomer_SL, u"0000"_qs));
     vnitrek->addWidget(Tabulka_Sousednich());
     vnitrek->addLayout(Vedle(chkVyloucit_Pary, lblCisla_Pary));
     vnitrek->addLayout(Vedle(chkPonechat_MaxCis_Ve_Sloupci, txtMax_Ve_Sloupci));
     vnitrek->addLayout(Vedle(chkCislo_V_Tipu, txtCislo_V_Tipu));
     vnitrek->addWidget(Label4);
     const std::array<QLabel*, 2> suda_licha{lblSude, lblLiche};
-    vnitrek->addWidget(Pod_Slovy(fraVyber_Tipu, Label4, {u"sudé"_qs, u"liché"_qs}, suda_licha));
+    vnitrek->addWidget(Pod_Slovy(fraVyber_Tipu, Label4, {u"sudé"_qs, u"liché"_qs}, suda_licha, u"0000"_qs));
     auto* tlacitko = new QHBoxLayout;
     tlacitko->addStretch();
     tlacitko->addWidget(cmdOK);
@@ -173,9 +142,9 @@ QWidget* frmVypisTipu_Vyber::Tabulka_Sousednich() {
     auto* tabulka = new QVBoxLayout(fraSousedni_Cisla);
     tabulka->setSpacing(2);
     tabulka->addWidget(Label26);
-    tabulka->addWidget(Pod_Slovy(fraSousedni_Cisla, Label26, delky, jednou, Label24));
-    tabulka->addWidget(Pod_Slovy(fraSousedni_Cisla, Label26, delky, dvakrat, Label10));
-    tabulka->addWidget(Pod_Slovy(fraSousedni_Cisla, Label26, delky, trikrat, Label16));
+    tabulka->addWidget(Pod_Slovy(fraSousedni_Cisla, Label26, delky, jednou, u"0000"_qs, Label24));
+    tabulka->addWidget(Pod_Slovy(fraSousedni_Cisla, Label26, delky, dvakrat, u"0000"_qs, Label10));
+    tabulka->addWidget(Pod_Slovy(fraSousedni_Cisla, Label26, delky, trikrat, u"0000"_qs, Label16));
     return fraSousedni_Cisla;
 }
 

@@ -380,11 +380,10 @@ void frmVypisTipu_Vyhry::Hledej_Poradi(int tah, int index) {
 void frmVypisTipu_Vyhry::Tiskni_Vyhravajici_Tikety() {
     if (!Sezeni.Dialog->Vybrat_Tiskarnu())
         return;
-    frmTiskarna tisk(Sezeni.Dialog->Tiskarna());
-    if (!tisk.Ok()) {
-        Sezeni.Sluzby->Zprava(u"Není zapnuta tiskárna !"_qs);
+    const std::unique_ptr<frmTiskarna> otevrena = frmTiskarna::Otevri(Sezeni.Dialog->Tiskarna(), Sezeni.Sluzby);
+    if (!otevrena)
         return;
-    }
+    frmTiskarna& tisk = *otevrena;
     tisk.Radek();
     tisk.Radek();
     tisk.Velikost(10);
@@ -423,11 +422,10 @@ void frmVypisTipu_Vyhry::Tiskni_Vyherni_Listinu(const std::vector<Vyhra_Sazejici
         Sezeni.Sluzby->Zprava(u"Není žádný seznam účastníků."_qs);
         return;
     }
-    frmTiskarna tisk(Sezeni.Dialog->Tiskarna());
-    if (!tisk.Ok()) {
-        Sezeni.Sluzby->Zprava(u"Není zapnuta tiskárna !"_qs);
+    const std::unique_ptr<frmTiskarna> otevrena = frmTiskarna::Otevri(Sezeni.Dialog->Tiskarna(), Sezeni.Sluzby);
+    if (!otevrena)
         return;
-    }
+    frmTiskarna& tisk = *otevrena;
     const QString cara = u"   "_qs + QString(109, u'_');
     tisk.Radek();
     tisk.Radek();

@@ -50,6 +50,26 @@ struct Snimek {
     std::function<QWidget*(QWidget* hlavni)> Otevri;
 };
 
+// The analysis window after the frequency over the last 52 draws; with `graf` its chart tab, two
+// numbers picked.
+QWidget* Cetnost_52(bool graf) {
+    static std::vector<std::unique_ptr<Prostredi>> prostredi_snimku;
+    prostredi_snimku.push_back(std::make_unique<Prostredi>(QDate(2026, 11, 26)));
+    Prostredi& prostredi = *prostredi_snimku.back();
+    prostredi.Spust().resize(1000, 720);
+    prostredi.Prikaz(u"mnuAnalyza"_qs)->trigger();
+    auto* okno = prostredi.Okno->Najdi_Okno<frmAnalyzaTahu>();
+    okno->txtPocet_1Tahu->setText(u"52"_qs);
+    okno->txtPocet_2Tahu->setText(u"52"_qs);
+    okno->cmdOK->click();
+    if (graf) {
+        prostredi.Data->Vybrana_Cisla[7] = prostredi.Data->Vybrana_Cisla[36] = 1;
+        okno->Graf->Zvyrazni(prostredi.Data->Vybrana_Cisla);
+        okno->Zalozky->setCurrentIndex(1);
+    }
+    return prostredi.Okno.release();
+}
+
 // The start on a Thursday without the Sunday archive, as the screen shows it: the main window,
 // the splash and the notice over it, each painted where it stands.
 QWidget* Start_Bez_Archivu() {
@@ -182,31 +202,8 @@ int main(int argc, char** argv) {
              return prostredi.Okno.release();
          }},
         // The frequency of numbers over the last 52 draws, as the report and as the chart.
-        {u"frmAnalyzaTahu"_qs,
-         [](QWidget*) -> QWidget* {
-             static Prostredi prostredi(QDate(2026, 11, 26));
-             prostredi.Spust().resize(1000, 720);
-             prostredi.Prikaz(u"mnuAnalyza"_qs)->trigger();
-             auto* okno = prostredi.Okno->Najdi_Okno<frmAnalyzaTahu>();
-             okno->txtPocet_1Tahu->setText(u"52"_qs);
-             okno->txtPocet_2Tahu->setText(u"52"_qs);
-             okno->cmdOK->click();
-             return prostredi.Okno.release();
-         }},
-        {u"frmAnalyzaTahu_Graf"_qs,
-         [](QWidget*) -> QWidget* {
-             static Prostredi prostredi(QDate(2026, 11, 26));
-             prostredi.Spust().resize(1000, 720);
-             prostredi.Prikaz(u"mnuAnalyza"_qs)->trigger();
-             auto* okno = prostredi.Okno->Najdi_Okno<frmAnalyzaTahu>();
-             okno->txtPocet_1Tahu->setText(u"52"_qs);
-             okno->txtPocet_2Tahu->setText(u"52"_qs);
-             okno->cmdOK->click();
-             prostredi.Data->Vybrana_Cisla[7] = prostredi.Data->Vybrana_Cisla[36] = 1;
-             okno->Graf->Zvyrazni(prostredi.Data->Vybrana_Cisla);
-             okno->Zalozky->setCurrentIndex(1);
-             return prostredi.Okno.release();
-         }},
+        {u"frmAnalyzaTahu"_qs, [](QWidget*) { return Cetnost_52(false); }},
+        {u"frmAnalyzaTahu_Graf"_qs, [](QWidget*) { return Cetnost_52(true); }},
         // The generator with numbers taken from the status band, a tutovka by a right click and two
         // filters on.
         {u"frmGeneruj"_qs,
