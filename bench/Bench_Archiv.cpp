@@ -1,5 +1,7 @@
 // The draw archive at the size of the real history: loading the Sunday archive with its flat
-// lists, as every switch of draw day does, and importing the operator's data.
+// lists, as every switch of draw day does, the lines of the draw list, and importing the
+// operator's data.
+#include "archive/Editor_Tahu.h"
 #include "data/Archiv_Tahu.h"
 #include "net/Import_Tahu.h"
 
@@ -77,6 +79,18 @@ void Seznamy_Tahu(benchmark::State& stav) {
     }
 }
 BENCHMARK(Seznamy_Tahu)->Unit(benchmark::kMicrosecond);
+
+// The lines of both lists of the draw list, made anew after each add, repair and delete.
+void Radky_Seznamu_Tahu(benchmark::State& stav) {
+    Archiv_Tahu archiv;
+    if (!Nacti_Tahy(archiv, Adresar_Archivu(), u"SpN_tahy.sez"_qs).Ok())
+        std::abort();
+    for (auto _ : stav) {
+        benchmark::DoNotOptimize(Vypis_Cisla_Tahu(archiv, Prvni_Tah));
+        benchmark::DoNotOptimize(Vypis_Cisla_Tahu(archiv, Druhy_Tah));
+    }
+}
+BENCHMARK(Radky_Seznamu_Tahu)->Unit(benchmark::kMicrosecond);
 
 void Import_Csv(benchmark::State& stav) {
     const QByteArray csv = Historie();

@@ -42,6 +42,14 @@ struct Relace {
     bool Formular_Otevren_Tipy = false;
     bool Formular_Otevren_Tahy = false;
     bool Vypis_Tipu_Vsech_Otevren = false;
+    bool Vypis_Cisel = false; // the analysis viewer frmVypisAnalyz is open
+
+    // The draw list (frmVypisTahu) and those who use it.
+    bool Tahy_Pro_Analyzu = false; // the analysis window opened the list: a click sets its range
+    bool Tipy_Zobrazeny = false;   // the tip list shows tips in the normal mode: a click only shows a draw
+    bool Suma_Vyberu = false;      // the list's "SUMA výběru": the marks of several draws add up
+    bool Animace_Bezi = false;     // the replay of the draws runs
+    bool Cas_Vyprsel = false;      // set by the frame's Timer2; the replay waits for it between steps
 
     // Even and odd numbers of the picked list (Spocitej_Suda_Licha).
     int Pocet_Sudych = 0;
