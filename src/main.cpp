@@ -80,11 +80,13 @@ QString Adresar_Programu() {
         return u_programu;
     const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     QDir().mkpath(data);
-    for (const QString& archiv : {Soubor_Tahu_Dne(Den::Streda), Soubor_Tahu_Dne(Den::Nedele)}) {
-        const QString cil = Spoj_Cestu(data, archiv);
-        if (!QFile::exists(cil))
-            QFile::copy(Spoj_Cestu(u_programu, archiv), cil);
-    }
+    // The shipped dates are true of any archive of their day, so they join an older folder too.
+    for (const Den den : Dny_Losovani)
+        for (const QString& soubor : {Soubor_Tahu_Dne(den), Soubor_Dnu(Soubor_Tahu_Dne(den))}) {
+            const QString cil = Spoj_Cestu(data, soubor);
+            if (!QFile::exists(cil))
+                QFile::copy(Spoj_Cestu(u_programu, soubor), cil);
+        }
     return data;
 }
 

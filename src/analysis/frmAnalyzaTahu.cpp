@@ -2,6 +2,7 @@
 
 #include "analysis/Soubor_Analyzy.h"
 #include "analysis/frmAnalyzaTahu_Graf.h"
+#include "analysis/frmVypisAnalyz.h"
 #include "app/Dialogy.h"
 #include "app/Hodiny.h"
 #include "app/Relace.h"
@@ -11,6 +12,7 @@
 #include "app/frmMDITombi.h"
 #include "app/frmOvladani.h"
 #include "app/frmTiskarna.h"
+#include "archive/frmVypisTahu.h"
 #include "data/Chyby_A_Prehled.h"
 
 #include <QCheckBox>
@@ -117,7 +119,11 @@ frmAnalyzaTahu::frmAnalyzaTahu(frmMDITombi& ram, QWidget* parent)
     cmdOK->setDefault(true);
 
     connect(cmdOK, &QPushButton::clicked, this, &frmAnalyzaTahu::cmdOK_Click);
-    connect(cmdZrusit, &QPushButton::clicked, this, &QWidget::close);
+    // The draw list came with this window and goes with it.
+    connect(cmdZrusit, &QPushButton::clicked, this, [this] {
+        Ram.Zavri_Okno<frmVypisTahu>();
+        close();
+    });
     connect(cmdVymaz, &QPushButton::clicked, this, &frmAnalyzaTahu::cmdVymaz_Click);
     connect(cmdTisk, &QPushButton::clicked, this, &frmAnalyzaTahu::cmdTisk_Click);
 
@@ -466,6 +472,8 @@ void frmAnalyzaTahu::cmdOK_Click() {
         chyba = Ocisti_Analyza(n).Zprava;
     if (!chyba.isEmpty())
         Sezeni.Sluzby->Zprava(chyba);
+    else if (n.Zapis_Analyzy != 0 && n.Otevirat_Soubor != 0)
+        frmVypisAnalyz::Po_Zapisu_Analyzy(Ram);
     Graf->Zobraz(v.Graf);
 }
 
@@ -612,9 +620,17 @@ void frmAnalyzaTahu::Pripoj_Prikazy(frmMDITombi& ram) {
             return nullptr;
         }
         auto* okno = ram.Otevri_Okno<frmAnalyzaTahu>(ram);
+        frmVypisTahu::Otevri_Pro_Analyzu(ram, okno);
         if (sezeni.Nastaveni.Zapis_Analyzy != 0) {
             const Vysledek hlava = Zahlavi_Analyza(sezeni.Nastaveni, sezeni.Analyza.Analyza_Zahlavi, sezeni.Cas->Ted());
-            sezeni.Sluzby->Zprava(hlava.Ok() ? Text_Aktivni_Zapis : hlava.Zprava);
+            // A file started anew empties the open viewer, which itself shows where the reports go.
+            frmVypisAnalyz* vypis = ram.Najdi_Okno<frmVypisAnalyz>();
+            if (hlava.Ok() && vypis != nullptr && sezeni.Nastaveni.Spojovat_Soubor == 0)
+                vypis->Vymaz_Text();
+            if (!hlava.Ok())
+                sezeni.Sluzby->Zprava(hlava.Zprava);
+            else if (!sezeni.Vypis_Cisel)
+                sezeni.Sluzby->Zprava(Text_Aktivni_Zapis);
         }
         return okno;
     };

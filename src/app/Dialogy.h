@@ -12,7 +12,7 @@ class QPrinter;
 class Dialogy {
 public:
     enum class Ikona { Informace, Otaznik, Vykricnik, Stop };
-    enum class Tlacitka { OK, OK_Zrusit, Ano_Ne };
+    enum class Tlacitka { OK, OK_Zrusit, Ano_Ne, Ano_Ne_Zrusit };
     enum class Odpoved { OK, Zrusit, Ano, Ne };
 
     // A font as the settings keep it (Pismo_Jmeno_1, Pismo_Velikost_1, Pismo_Tucne_1, Pismo_Barva_1).

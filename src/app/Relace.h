@@ -24,7 +24,7 @@ struct Relace {
     // Seams.
     Hodiny* Cas = nullptr;
     Dialogy* Dialog = nullptr;
-    QSettings* Registr = nullptr; // holds Pws
+    QSettings* Registr = nullptr; // holds Pws and Friday's prize table
     // The notice, the status band and the busy state of the main window; none without windows.
     Sluzby_Oken* Sluzby = nullptr;
 

@@ -76,6 +76,9 @@ Dialogy::Odpoved frmCDlg::Otazka(Ikona ikona, const QString& titulek, const QStr
         okno.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         zruseni = Odpoved::Ne;
         break;
+    case Tlacitka::Ano_Ne_Zrusit:
+        okno.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        break;
     }
     // Czech captions, as Qt's Czech translation gives them, also where it is not installed.
     for (const auto& [tlacitko, text] :

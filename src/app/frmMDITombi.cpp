@@ -20,6 +20,8 @@
 #include "data/Nedavne_Soubory.h"
 #include "data/Soubory.h"
 #include "analysis/frmAnalyzaTahu.h"
+#include "archive/frmVypisTahu.h"
+#include "analysis/frmVypisAnalyz.h"
 #include "generator/frmGeneruj.h"
 #include "tips/frmVypisTipu.h"
 
@@ -90,6 +92,7 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
 
     // The commands that are the frame's own; every other one is connected by its window or menu.
     Obsluz(mnuSportka_streda, [this] { Prepni_Den(Den::Streda); });
+    Obsluz(mnuSportka_patek, [this] { Prepni_Den(Den::Patek); });
     Obsluz(mnuSportka_nedele, [this] { Prepni_Den(Den::Nedele); });
     Obsluz(mnuKonec, [this] { close(); });
     frmMDITombi_Tipy::Pripoj_Prikazy(*this);
@@ -100,6 +103,11 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
     frmVypisTipu::Pripoj_Prikazy(*this);
     frmGeneruj::Pripoj_Prikazy(*this);
     frmAnalyzaTahu::Pripoj_Prikazy(*this);
+    frmVypisTahu::Pripoj_Prikazy(*this);
+    Timer2 = new QTimer(this);
+    Timer2->setObjectName(u"Timer2"_qs);
+    connect(Timer2, &QTimer::timeout, this, [this] { Data_Relace.Cas_Vyprsel = true; });
+    frmVypisAnalyz::Pripoj_Prikazy(*this);
     Obnov_Povoleni();
 
     // A click anywhere on the main window sends the splash and the notice away; the click may
@@ -119,9 +127,10 @@ void frmMDITombi::Vytvor_Menu() {
     mnuVolbaTahu = menuBar()->addMenu(QString());
     mnuVolbaTahu->setObjectName(u"mnuVolbaTahu"_qs);
     mnuSportka_streda = Prikaz(mnuVolbaTahu, u"mnuSportka_streda"_qs);
+    mnuSportka_patek = Prikaz(mnuVolbaTahu, u"mnuSportka_patek"_qs);
     mnuSportka_nedele = Prikaz(mnuVolbaTahu, u"mnuSportka_nedele"_qs);
     auto* dny = new QActionGroup(this);
-    for (QAction* den : {mnuSportka_streda, mnuSportka_nedele}) {
+    for (QAction* den : {mnuSportka_streda, mnuSportka_patek, mnuSportka_nedele}) {
         den->setCheckable(true);
         dny->addAction(den);
     }
@@ -216,8 +225,8 @@ bool frmMDITombi::Je_Nehotovy(const QAction* prikaz) const {
     // out of this list once its window connects it.
     const QAction* const nehotove[] = {
         mnuPripojSouborTipu, mnuSetriditSouborTipu,
-        mnuExportTipu,       mnuImportTipu,         mnuTiskTiketu,  mnuVypisTahu,       mnuRozsirSouborTahy,
-        mnuVypisAnalyz,      mnuDownload,           mnuOtevriSeznam,
+        mnuExportTipu,       mnuImportTipu,         mnuTiskTiketu,  mnuRozsirSouborTahy,
+        mnuDownload,           mnuOtevriSeznam,
         mnuNovySeznam,       mnuVypisSeznamu,       mnuUvolnit,     mnuKonfigurace,     mnuWebTombiNovaVer,
     };
     return std::find(std::begin(nehotove), std::end(nehotove), prikaz) != std::end(nehotove) ||
@@ -482,6 +491,7 @@ void frmMDITombi::Zavri_Pro_Analyzu() {
     // bettors' list, the notice, ticket printing and the about window; each window joins here once
     // it is built.
     Zavri_Okno<frmVypisTipu>();
+    Zavri_Okno<frmVypisTahu>();
     Sluzby_Okna->Zavri_Oznameni();
     Zavri_Okno<frmOProgramu>();
     Pas_Stavu->txtRozpisAktivni->clear();
@@ -491,8 +501,11 @@ void frmMDITombi::Zavri_Pro_Analyzu() {
 
 void frmMDITombi::Prepni_Den(Den den) {
     Sluzby_Okna->Nastav_Status(QString(), QString());
-    (den == Den::Nedele ? mnuSportka_nedele : mnuSportka_streda)->setChecked(true);
-    Pas_Stavu->txtSportka_Tah->setText(den == Den::Nedele ? u"NEDĚLE"_qs : u"STŘEDA"_qs);
+    (den == Den::Nedele ? mnuSportka_nedele : den == Den::Patek ? mnuSportka_patek : mnuSportka_streda)
+        ->setChecked(true);
+    Pas_Stavu->txtSportka_Tah->setText(den == Den::Nedele  ? u"NEDĚLE"_qs
+                                       : den == Den::Patek ? u"PÁTEK"_qs
+                                                           : u"STŘEDA"_qs);
     const Vysledek nacteni = modTombi::Prepni_Den(Data_Relace, den);
     Chybi_Tahy = !nacteni.Ok();
     if (Chybi_Tahy) {
@@ -501,6 +514,25 @@ void frmMDITombi::Prepni_Den(Den den) {
     }
     Obnov_Povoleni();
     emit Den_Prepnut();
+}
+
+void frmMDITombi::Tahy_Zalozeny() {
+    if (!Chybi_Tahy)
+        return;
+    Chybi_Tahy = false;
+    const Den den = Den(Data_Relace.Tikety.Den_Tahu);
+    Pas_Stavu->txtSportka_Tah->setText(den == Den::Nedele ? u"NEDĚLE"_qs : den == Den::Patek ? u"PÁTEK"_qs : u"STŘEDA"_qs);
+    Obnov_Povoleni();
+}
+
+// ---- Timer2 ----
+
+void frmMDITombi::Nastav_Timer2(int sekundy) {
+    Timer2->start(std::max(1, sekundy * Milisekund_Sekundy));
+}
+
+void frmMDITombi::Zastav_Timer2() {
+    Timer2->stop();
 }
 
 // ---- Recent files ----

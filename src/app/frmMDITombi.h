@@ -19,6 +19,7 @@
 #include <memory>
 
 class QAction;
+class QTimer;
 class QMenu;
 class QUrl;
 class Tabulka_Textu;
@@ -88,6 +89,18 @@ public:
     // empty and the commands of the archive disabled until a later load succeeds.
     void Prepni_Den(Den den);
     bool Bez_Tahu() const { return Chybi_Tahy; }
+    // The day without an archive has got one (the draw list wrote its first draw): the status field
+    // shows the day and the commands of the archive come on.
+    void Tahy_Zalozeny();
+
+    // ---- Timer2 ----
+
+    // The pace of the draw list's replay: each tick of Timer2 sets the session's Cas_Vyprsel. The
+    // interval is given in seconds of Milisekund_Sekundy each, which tests shorten.
+    void Nastav_Timer2(int sekundy);
+    void Zastav_Timer2();
+    QTimer* Timer2 = nullptr;
+    int Milisekund_Sekundy = 1000;
 
     // ---- Recent files, background, other programs ----
 
@@ -106,6 +119,7 @@ public:
     // Menus and commands.
     QMenu* mnuVolbaTahu;
     QAction* mnuSportka_streda;
+    QAction* mnuSportka_patek;
     QAction* mnuSportka_nedele;
     QAction* mnuKonec;
     std::array<QAction*, 10> mnuRecentFile; // 0 is the separator

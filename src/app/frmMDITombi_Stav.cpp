@@ -1,9 +1,11 @@
 #include "app/frmMDITombi_Stav.h"
 
+#include "analysis/frmVypisAnalyz.h"
 #include "app/Relace.h"
 #include "app/Tabulka_Textu.h"
 #include "app/Vb.h"
 #include "app/frmKresleni.h"
+#include "app/frmMDITombi.h"
 #include "app/modTombi.h"
 
 #include <QEvent>
@@ -172,4 +174,15 @@ void frmMDITombi_Stav::txtRozpisAktivni_Change(const QString& text) {
         txtPocet_Vybranych->clear();
     modTombi::Spocitej_Suda_Licha(Sezeni, text);
     emit Rozpis_Zmenen(text);
+    // Numbers picked in the generator, the tip list or the draw list are marked in the analysis
+    // viewer too, which takes them each followed by a comma: " 5" as " 5,", " 5 12" as "5, 12,".
+    if (!Sezeni.Vypis_Cisel ||
+        !(Sezeni.Formular_Otevren_Generuj || Sezeni.Formular_Otevren_Tipy || Sezeni.Formular_Otevren_Tahy))
+        return;
+    const auto* ram = qobject_cast<const frmMDITombi*>(window());
+    frmVypisAnalyz* vypis = ram != nullptr ? ram->Najdi_Okno<frmVypisAnalyz>() : nullptr;
+    if (vypis == nullptr)
+        return;
+    vypis->Vyber_Cisla(1, text.size() < 4 ? text + u',' : QString(text.mid(1)).replace(u' ', u", "_qs) + u',');
+    Sezeni.Vybrana_Cisla.fill(0);
 }

@@ -1,10 +1,12 @@
 #include "app/frmMDITombi_Tahy.h"
 
+#include "analysis/frmAnalyzaTahu.h"
 #include "app/Dialogy.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
 #include "app/frmMDITombi.h"
 #include "app/frmMDITombi_Stav.h"
+#include "archive/frmVypisTahu.h"
 #include "net/Import_Tahu.h"
 
 #include <QLineEdit>
@@ -17,7 +19,10 @@ const QString Adresa_Sazky = u"https://www.sazka.cz"_qs;
 
 void mnuAktualizaceTahu_Click(frmMDITombi& ram) {
     Relace& relace = ram.Sezeni();
-    // The draw list and the analysis close here, once they are built: they show the old archive.
+    // The draw list and the analysis show the old archive: they close, and the list comes back on
+    // the new one.
+    ram.Zavri_Okno<frmVypisTahu>();
+    ram.Zavri_Okno<frmAnalyzaTahu>();
     Vysledek import;
     {
         const Prace prace(relace.Sluzby);
@@ -30,6 +35,8 @@ void mnuAktualizaceTahu_Click(frmMDITombi& ram) {
     }
     // The day is loaded anew from the file just written: counts, flat lists and commands follow.
     ram.Prepni_Den(Den(relace.Tikety.Den_Tahu));
+    if (!ram.Bez_Tahu())
+        frmVypisTahu::Otevri(ram);
 }
 
 void mnuObnovaDatTahu_Click(frmMDITombi& ram) {
@@ -44,7 +51,10 @@ void mnuObnovaDatTahu_Click(frmMDITombi& ram) {
         relace.Sluzby->Zprava(obnova.Zprava);
         return;
     }
+    ram.Zavri_Okno<frmVypisTahu>();
     ram.Prepni_Den(Den(relace.Tikety.Den_Tahu));
+    if (!ram.Bez_Tahu())
+        frmVypisTahu::Otevri(ram);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "app/Hodiny.h"
 #include "app/Vb.h"
 
+#include <QSettings>
 #include <QStringList>
 #include <algorithm>
 #include <array>
@@ -10,6 +11,8 @@
 namespace modTombi {
 
 namespace {
+
+const QString Klic_Cen_Patku = u"Common/Ceny_Patek"_qs;
 
 // Every character that code page 1250 holds in one byte: the decoded 256 byte values.
 const QString& Znaky_1250() {
@@ -116,7 +119,7 @@ int Den_V_Tydnu(const QDate& datum) {
 
 QString Dalsi_Tah(const QDate& dnes) {
     // Days to the next draw from Sunday (1) to Saturday (7); Wednesday has none of its own.
-    static constexpr std::array<int, 7> Dnu_Do_Tahu = {0, 2, 1, -1, 3, 2, 1};
+    static constexpr std::array<int, 7> Dnu_Do_Tahu = {0, 2, 1, -1, 1, 0, 1};
     const int den = Den_V_Tydnu(dnes);
     const int dnu = Dnu_Do_Tahu[std::size_t(den - 1)];
     if (dnu < 0)
@@ -125,12 +128,16 @@ QString Dalsi_Tah(const QDate& dnes) {
 }
 
 Den Den_Podle_Tydne(int den_v_tydnu) {
-    return den_v_tydnu >= 2 && den_v_tydnu <= 4 ? Den::Streda : Den::Nedele;
+    if (den_v_tydnu >= 2 && den_v_tydnu <= 4)
+        return Den::Streda;
+    return den_v_tydnu == 5 || den_v_tydnu == 6 ? Den::Patek : Den::Nedele;
 }
 
 Vysledek Prepni_Den(Relace& relace, Den den) {
     relace.Tikety.Den_Tahu = uint8_t(den);
-    relace.Soubor_Tahu_Dbf = den == Den::Nedele ? relace.Nastaveni.FTP_Data2 : relace.Nastaveni.FTP_Data1;
+    relace.Soubor_Tahu_Dbf = den == Den::Nedele   ? relace.Nastaveni.FTP_Data2
+                             : den == Den::Streda ? relace.Nastaveni.FTP_Data1
+                                                  : QStringView(Soubor_Dat_Patku).toString();
     Nastav_Den_Archivu(relace.Archiv, den);
     const Vysledek nacteni = Nacti_Tahy(relace.Archiv, relace.Adresar_Dat(), relace.Archiv.Soubor_Tahu);
     // A failed load has emptied the archive; the flat lists and counts follow it, so that no window
@@ -140,6 +147,29 @@ Vysledek Prepni_Den(Relace& relace, Den den) {
     relace.Tikety.Pocet_Tahu_2 = int16_t(druhe);
     Priprav_Seznamy_Tahu(relace.Archiv);
     return nacteni;
+}
+
+std::array<Vb::Mena, 10> Ceny_Dne_Tahu(const Relace& relace, Den den) {
+    if (den == Den::Streda)
+        return relace.Nastaveni.Ceny_Streda;
+    if (den == Den::Nedele)
+        return relace.Nastaveni.Ceny_Nedele;
+    std::array<Vb::Mena, 10> ceny{};
+    if (relace.Registr == nullptr)
+        return ceny;
+    const QStringList texty = relace.Registr->value(Klic_Cen_Patku).toStringList();
+    for (std::size_t i = 0; i < ceny.size() && qsizetype(i) < texty.size(); ++i)
+        ceny[i] = Vb::Mena::Z_Korun(Vb::Val(texty[qsizetype(i)]));
+    return ceny;
+}
+
+void Uloz_Ceny_Patku(Relace& relace, const std::array<Vb::Mena, 10>& ceny) {
+    if (relace.Registr == nullptr)
+        return;
+    QStringList texty;
+    for (const Vb::Mena& cena : ceny)
+        texty << cena.Text();
+    relace.Registr->setValue(Klic_Cen_Patku, texty);
 }
 
 QString Tvar_Poctu(int64_t pocet, const QString& jeden, const QString& dva_az_ctyri, const QString& pet) {

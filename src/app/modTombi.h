@@ -4,11 +4,13 @@
 // date, the switch of draw day over the archive, the wait with the event pump, and the key filter.
 
 #include "app/Relace.h"
+#include "app/Vb.h"
 #include "app/Vysledek.h"
 #include "data/Archiv_Tahu.h"
 
 #include <QDate>
 #include <QString>
+#include <array>
 #include <functional>
 
 namespace modTombi {
@@ -36,15 +38,26 @@ QString Otevreny_Tip_Text(const Zaznam_Tipu& tipy);
 
 // The weekday as the Basic counts it: 1 Sunday .. 7 Saturday.
 int Den_V_Tydnu(const QDate& datum);
-// The date of the next draw as text (d.m.yyyy), empty on a Wednesday.
+// The date of the next draw as text (d.m.yyyy): today on a Friday or a Sunday, empty on a Wednesday.
 QString Dalsi_Tah(const QDate& dnes);
-// Monday, Tuesday and Wednesday choose the Wednesday archive, the other days the Sunday one.
+// Monday to Wednesday choose the Wednesday archive, Thursday and Friday the Friday one, Saturday
+// and Sunday the Sunday one.
 Den Den_Podle_Tydne(int den_v_tydnu);
+
+// The import source of the Friday draw: the operator publishes that day only in its CSV export of
+// all days, and tombi.cfg has no field for a third name.
+inline constexpr char16_t Soubor_Dat_Patku[] = u"sportka.csv";
 
 // The switch of draw day over the session's data: Den_Tahu, Soubor_Tahu_Dbf, the archive's file
 // and first years, the load, the counts in pTikety and the flat lists. The message of a failed
 // load is returned for the caller to show; the session is then without draws.
 Vysledek Prepni_Den(Relace& relace, Den den);
+
+// The prize table of a draw day, five tiers of the first draw and five of the second. Wednesday's
+// and Sunday's are fields of tombi.cfg; Friday's lives in the user's settings store (Registr), so
+// that tombi.cfg stays the record the old program reads. No store, or no table in it, is all zero.
+std::array<Vb::Mena, 10> Ceny_Dne_Tahu(const Relace& relace, Den den);
+void Uloz_Ceny_Patku(Relace& relace, const std::array<Vb::Mena, 10>& ceny);
 
 // The Czech form of a noun after a count: `jeden` for 1, `dva_az_ctyri` for 2 to 4, `pet` for any
 // other count, 0 and negative ones included ("1 sloupec", "3 sloupce", "5 sloupců", "0 sloupců").

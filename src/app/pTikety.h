@@ -32,7 +32,7 @@ public:
     int16_t Pocet_Tahu_2 = 0; // second draws in the loaded archive
     double Procenta_Celkem = 0;
     double Procenta_Dilci = 0;
-    uint8_t Den_Tahu = 0;    // 1 Wednesday, 0 Sunday
+    uint8_t Den_Tahu = 0;    // 1 Wednesday, 2 Friday, 0 Sunday
     bool Zmena_Dat = false;  // data changed and not saved
     bool Zrusit_Beh = false; // long jobs read it after each pump of events
     Vb::Mena Vklad;          // stake of the tip file for one draw day

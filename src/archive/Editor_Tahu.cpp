@@ -64,7 +64,7 @@ QString Radek_Roku(int rok) {
     return Vb::Str(int64_t(rok));
 }
 
-QString Radek_Tahu(int tyden, const Tah& tah) {
+QString Radek_Tahu_Seznamu(int tyden, const Tah& tah) {
     QString radek = QString::number(tyden) + (tyden < 10 ? u"   - "_qs : u" - "_qs);
     for (int k = 1; k <= 6; ++k) {
         radek += tah[k] < 10 ? u"   "_qs : u" "_qs;
@@ -89,7 +89,7 @@ Seznam_Tahu Vypis_Cisla_Tahu(const Archiv_Tahu& archiv, int tah, const Prubeh& p
                 seznam.Radky << Radek_Roku(rok.Rok);
                 rok_zapsan = true;
             }
-            seznam.Radky << Radek_Tahu(t, Cisla(rok.Tyden[t], tah));
+            seznam.Radky << Radek_Tahu_Seznamu(t, Cisla(rok.Tyden[t], tah));
             ++seznam.Pocet_Tahu;
         }
         if (prubeh)

@@ -10,7 +10,6 @@
 
 #include <QString>
 #include <QStringList>
-
 #include <optional>
 
 // The series of a draw as the editor counts it (Aktivni_Tah): 0 first draws, 1 second draws.
@@ -24,9 +23,11 @@ QString Radek_Roku(int rok);
 // The draw line: the week, "   - " or " - ", the six numbers each padded to the width of two
 // digits and in Str form (a 0 leaves only the padding), then " - " and the supplementary number,
 // or three blanks when there is none.
-QString Radek_Tahu(int tyden, const Tah& tah);
+QString Radek_Tahu_Seznamu(int tyden, const Tah& tah);
 // Lines above ten characters are draws, the rest years.
-inline bool Je_Radek_Tahu(const QString& radek) { return radek.size() > 10; }
+inline bool Je_Radek_Tahu(const QString& radek) {
+    return radek.size() > 10;
+}
 
 // The whole list of a series: a year line before the first draw of each year that has one, then
 // its draws by week; year records in file order. Pocet_Tahu counts the draw lines.

@@ -10,8 +10,10 @@
 const char* const Pouziti =
     "Použití:\n"
     "  tombi-cli import --dbf SOUBOR --out SOUBOR.sez\n"
-    "  tombi-cli import --csv SOUBOR --den streda|nedele --out SOUBOR.sez\n"
-    "  tombi-cli archive SOUBOR.sez [--list 1|2]\n"
+    "  tombi-cli import --csv SOUBOR --den streda|patek|nedele --out SOUBOR.sez\n"
+    "  tombi-cli archive SOUBOR.sez [--list 1|2 [--datum]]\n"
+    "  tombi-cli archive SOUBOR.sez --pridej|--oprav ROK TYDEN TAH \"n1 .. n7\"\n"
+    "  tombi-cli archive SOUBOR.sez --smaz ROK TYDEN TAH\n"
     "  tombi-cli tips SOUBOR.tip\n"
     "  tombi-cli tips --convert SOUBOR.tip\n"
     "  tombi-cli cfg SOUBOR\n"

@@ -53,3 +53,6 @@ std::optional<QList<int>> Cisla_Volby(const QString& text, int pocet_od, int poc
 int Generovani(const QStringList& args);
 int Vyhodnoceni(const QStringList& args);
 int Analyza(const QStringList& args);
+// archive SOUBOR.sez --pridej|--oprav|--smaz ...: the editor of the draw list.
+bool Je_Uprava_Archivu(const QStringList& args);
+int Uprava_Archivu(const QStringList& args);

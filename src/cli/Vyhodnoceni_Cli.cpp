@@ -183,7 +183,11 @@ int Vyhodnoceni(const QStringList& args) {
         den = Den_Souboru_Tahu(soubor.fileName()).value_or(Den::Nedele);
     }
     const Nastaveni_Zaznam nastaveni = Vychozi_Nastaveni(QString(), QString());
-    std::array<Ceny_Tahu, 2> ceny = Ceny_Dne(den == Den::Streda ? nastaveni.Ceny_Streda : nastaveni.Ceny_Nedele);
+    // Friday's table lives in the user's settings store, which a script has not: all zero, as a new
+    // user's tables are.
+    std::array<Ceny_Tahu, 2> ceny = Ceny_Dne(den == Den::Streda  ? nastaveni.Ceny_Streda
+                                             : den == Den::Patek ? std::array<Vb::Mena, 10>{}
+                                                                 : nastaveni.Ceny_Nedele);
     if (ceny_volby)
         for (qsizetype i = 0; i < ceny_volby->size(); ++i)
             ceny[std::size_t(i / 5)][std::size_t(i % 5)] = (*ceny_volby)[i];

@@ -42,10 +42,12 @@ int Import(const QStringList& args) {
     std::optional<Den> den_tahu;
     if (den == u"streda")
         den_tahu = Den::Streda;
+    else if (den == u"patek")
+        den_tahu = Den::Patek;
     else if (den == u"nedele")
         den_tahu = Den::Nedele;
     else if (csv)
-        return Spatne_Pouziti(u"Den musí být \"streda\" nebo \"nedele\"."_qs);
+        return Spatne_Pouziti(u"Den musí být \"streda\", \"patek\" nebo \"nedele\"."_qs);
 
     if (Jen_Ke_Cteni().contains(*vystup))
         return Nelze_Zapsat_Do(*vystup);
@@ -70,20 +72,30 @@ int Import(const QStringList& args) {
     const Vysledek zapis = Uloz_Tahy(archiv, cil.absolutePath(), cil.fileName());
     if (!zapis.Ok())
         return Chyba(zapis.Zprava);
+    // The dates beside the archive, as the program's import keeps them; a dBase source has none.
+    if (const Vysledek dny = Uloz_Dny(vysledek.Dny, cil.absolutePath(), cil.fileName()); !dny.Ok())
+        return Chyba(dny.Zprava);
     Vypis(Radek_Archivu(archiv));
     return Uspech;
 }
 
 int Archiv(const QStringList& args) {
-    const Argumenty a = Rozeber(args, {u"--list"_qs}, {});
+    if (Je_Uprava_Archivu(args))
+        return Uprava_Archivu(args);
+    const Argumenty a = Rozeber(args, {u"--list"_qs}, {u"--datum"_qs});
     if (!a.Chyba.isEmpty() || a.Pozicni.size() != 1)
         return Spatne_Pouziti(a.Chyba);
     const auto seznam = a.Volba(u"--list"_qs);
     if (seznam && seznam != u"1" && seznam != u"2")
         return Spatne_Pouziti(u"Seznam tahů je 1 nebo 2."_qs);
 
+    const bool datum = a.Prepinace.contains(u"--datum");
+    if (datum && !seznam)
+        return Spatne_Pouziti(u"Volba --datum patří k volbě --list."_qs);
+
     const QFileInfo soubor(a.Pozicni.front());
     Archiv_Tahu archiv;
+    archiv.Soubor_Tahu = soubor.fileName();
     const Vysledek nacteni = Nacti_Tahy(archiv, soubor.absolutePath(), soubor.fileName());
     if (!nacteni.Ok())
         return Chyba(nacteni.Zprava);
@@ -92,6 +104,10 @@ int Archiv(const QStringList& args) {
         return Uspech;
 
     Priprav_Seznamy_Tahu(archiv);
+    // A spoilt line costs only its draw's real date: a warning, and the date of its week.
+    if (datum && !archiv.Dny.Vadne_Radky.isEmpty())
+        Chyba(u"Soubor \""_qs + Soubor_Dnu(soubor.fileName()) + u"\" má vadné řádky, jejich tahy mají datum podle týdne ("_qs +
+              archiv.Dny.Vadne_Radky + u")."_qs);
     const bool prvni = seznam == u"1";
     const std::vector<Tah>& tahy = prvni ? archiv.Tahy_1 : archiv.Tahy_2;
     const int pocet = prvni ? archiv.Pocet_Tahy_1 : archiv.Pocet_Tahy_2;
@@ -99,6 +115,12 @@ int Archiv(const QStringList& args) {
         QString radek = QString::number(i);
         for (uint8_t cislo : tahy[size_t(i)])
             radek += u' ' + QString::number(cislo);
+        if (datum) {
+            const auto [rok, tyden] = Rok_A_Tyden(archiv, prvni ? 1 : 2, i);
+            // An archive under a name of no draw day has no weekday to fall back on.
+            const QDate den = Datum_Tahu(archiv, prvni ? 1 : 2, rok, tyden);
+            radek += den.isValid() ? u' ' + den.toString(u"dd.MM.yyyy") : u" -"_qs;
+        }
         Vypis(radek);
     }
     return Uspech;

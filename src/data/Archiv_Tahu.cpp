@@ -60,12 +60,32 @@ int Platny_Pocet_Let(const Archiv_Tahu& archiv) {
 
 } // namespace
 
+int Iso_Den_Tydne(Den den) {
+    switch (den) {
+    case Den::Streda:
+        return 3;
+    case Den::Patek:
+        return 5;
+    case Den::Nedele:
+        break;
+    }
+    return 7;
+}
+
 QString Soubor_Tahu_Dne(Den den) {
-    return den == Den::Streda ? u"SpS_tahy.sez"_qs : u"SpN_tahy.sez"_qs;
+    switch (den) {
+    case Den::Streda:
+        return u"SpS_tahy.sez"_qs;
+    case Den::Patek:
+        return u"SpP_tahy.sez"_qs;
+    case Den::Nedele:
+        break;
+    }
+    return u"SpN_tahy.sez"_qs;
 }
 
 std::optional<Den> Den_Souboru_Tahu(const QString& soubor) {
-    for (const Den den : {Den::Streda, Den::Nedele})
+    for (const Den den : Dny_Losovani)
         if (soubor.compare(Soubor_Tahu_Dne(den), Qt::CaseInsensitive) == 0)
             return den;
     return std::nullopt;
@@ -73,9 +93,10 @@ std::optional<Den> Den_Souboru_Tahu(const QString& soubor) {
 
 void Nastav_Den_Archivu(Archiv_Tahu& archiv, Den den) {
     archiv.Soubor_Tahu = Soubor_Tahu_Dne(den);
-    // Second draws began in 1965 on Sundays; the Wednesday game has had both since it began.
-    archiv.Rok_Zacatek_1 = den == Den::Streda ? 1995 : 1957;
-    archiv.Rok_Zacatek_2 = den == Den::Streda ? 1995 : 1965;
+    // Second draws began in 1965 on Sundays; the Wednesday and the Friday game have had both since
+    // they began (a few Friday draws before 2020 were one-off specials).
+    archiv.Rok_Zacatek_1 = den == Den::Streda ? 1995 : den == Den::Patek ? 2020 : 1957;
+    archiv.Rok_Zacatek_2 = den == Den::Streda ? 1995 : den == Den::Patek ? 2020 : 1965;
 }
 
 QString Jmeno_Zalohy(const QString& soubor) {
@@ -114,11 +135,13 @@ QByteArray Zapis_Roky(const std::vector<Rok_Zaznam>& roky, int pocet_let) {
 Vysledek Nacti_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QString& soubor) {
     archiv.Pole_Tahu.assign(1, Rok_Zaznam{});
     archiv.Pocet_Let = 0;
+    archiv.Dny = {};
     const Nacteny_Soubor nacteny = Nacti_Soubor(Spoj_Cestu(adresar, soubor), Nejvic_Archivu);
     if (!nacteny.Ok())
         return Vysledek::Chyba(nacteny.Nelze_Otevrit ? Chybi_Soubor(soubor) : nacteny.Zprava(soubor));
     archiv.Pole_Tahu = Cti_Roky(nacteny.Data);
     archiv.Pocet_Let = int(archiv.Pole_Tahu.size()) - 1;
+    archiv.Dny = Nacti_Dny(adresar, soubor);
     archiv.Tahy_Nacteny = true;
     return Vysledek::Uspech();
 }

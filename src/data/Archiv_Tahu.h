@@ -1,9 +1,11 @@
 #pragma once
-// The draw archive: one file a draw day (SpS_tahy.sez Wednesday, SpN_tahy.sez Sunday), a record
-// of 956 bytes a year, read whole into memory, and the two flat lists of first and second draws.
+// The draw archive: one file a draw day (SpS_tahy.sez Wednesday, SpP_tahy.sez Friday, SpN_tahy.sez
+// Sunday), a record of 956 bytes a year, read whole into memory with the dates of its draws, and
+// the two flat lists of first and second draws.
 
 #include "app/Pole_Od_1.h"
 #include "app/Vysledek.h"
+#include "data/Dny_Tahu.h"
 
 #include <QByteArray>
 #include <QString>
@@ -37,8 +39,12 @@ inline constexpr int Delka_Roku = 2 + 53 * Delka_Tydne; // 956
 // 32767 years, as many as Pocet_Let counts, take 31 MB; a larger file is no archive.
 inline constexpr qint64 Nejvic_Archivu = 32 * 1024 * 1024;
 
-// The draw day, with the values of Den_Tahu: 1 Wednesday, 0 Sunday.
-enum class Den : uint8_t { Nedele = 0, Streda = 1 };
+// The draw day, with the values of Den_Tahu: 1 Wednesday, 2 Friday (drawn since 2020), 0 Sunday.
+enum class Den : uint8_t { Nedele = 0, Streda = 1, Patek = 2 };
+// Every draw day, in the order of the week.
+inline constexpr Den Dny_Losovani[] = {Den::Streda, Den::Patek, Den::Nedele};
+// The day of the week, 1 Monday .. 7 Sunday, as QDate and the operator's export count it.
+int Iso_Den_Tydne(Den den);
 
 // The archive of the chosen draw day as the session holds it. Pole_Tahu and the flat lists keep an
 // unused element 0, so that index i is year record i and draw i, as everything else counts.
@@ -53,9 +59,10 @@ struct Archiv_Tahu {
     int Pocet_Tahy_2 = 0;
     int16_t Rok_Zacatek_1 = 0;
     int16_t Rok_Zacatek_2 = 0;
+    Dny_Tahu Dny; // the operator's dates, read with the archive
 };
 
-// "SpS_tahy.sez" for Wednesday, "SpN_tahy.sez" for Sunday.
+// "SpS_tahy.sez" for Wednesday, "SpP_tahy.sez" for Friday, "SpN_tahy.sez" for Sunday.
 QString Soubor_Tahu_Dne(Den den);
 // The day whose archive the file name is, case aside; nothing for any other name.
 std::optional<Den> Den_Souboru_Tahu(const QString& soubor);
@@ -70,8 +77,8 @@ std::vector<Rok_Zaznam> Cti_Roky(const QByteArray& bajty);
 // The image of records 1..pocet_let (at most as many as there are).
 QByteArray Zapis_Roky(const std::vector<Rok_Zaznam>& roky, int pocet_let);
 
-// Loads adresar/soubor into the archive. The old archive is dropped first, so a failure leaves
-// the session without draws (Pocet_Let 0). A missing or unreadable file gives "Chybí soubor tahů";
+// Loads adresar/soubor into the archive, and the dates of its .dny beside it (Nacti_Dny). The old
+// archive is dropped first, so a failure leaves the session without draws (Pocet_Let 0). A missing or unreadable file gives "Chybí soubor tahů";
 // a folder, a device or a file above Nejvic_Archivu is refused with its reason. The flat lists are
 // the caller's to rebuild.
 Vysledek Nacti_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QString& soubor);

@@ -7,6 +7,7 @@
 #include "app/frmMDITombi.h"
 #include "app/frmMDITombi_Stav.h"
 #include "app/frmOvladani.h"
+#include "archive/frmVypisTahu.h"
 #include "generator/Generator.h"
 #include "generator/frmGeneruj_Omezeni.h"
 #include "generator/frmGeneruj_Vyber.h"
@@ -425,7 +426,10 @@ void frmGeneruj::Pripoj_Prikazy(frmMDITombi& ram) {
 }
 
 frmGeneruj* frmGeneruj::Nacti_Cisla_Do_Generatoru(frmMDITombi& ram) {
+    // The numbers are taken first: the tip list and the generator empty the status band as they close.
     const QString text = ram.Stav()->txtRozpisAktivni->text();
+    ram.Zavri_Okno<frmVypisTipu>();
+    ram.Zavri_Okno<frmVypisTahu>();
     ram.Zavri_Okno<frmGeneruj>();
     auto* okno = ram.Otevri_Okno<frmGeneruj>(ram);
     okno->Vyber->Nacti_Cisla(text);

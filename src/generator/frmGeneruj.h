@@ -26,7 +26,7 @@ public:
     // mnuGenerujTipy.
     static void Pripoj_Prikazy(frmMDITombi& ram);
     // Nacti_Cisla_Do_Generatoru: the picked numbers of the status band become the pool of "Použít"
-    // of a generator opened anew.
+    // of a generator opened anew; the tip list and the draw list close.
     static frmGeneruj* Nacti_Cisla_Do_Generatoru(frmMDITombi& ram);
 
     // May a run start: the pool is complete; otherwise its message is shown.

@@ -106,6 +106,25 @@ std::optional<QString> Neni_Text_Csv(const QByteArray& b) {
     return u"obsahuje binární data"_qs;
 }
 
+// The date of the export, "11. 1. 2026" (blanks optional); an empty cell is no date, which is
+// allowed; nothing for a text that is no date.
+std::optional<QDate> Datum_Csv(QByteArrayView pole) {
+    const QByteArrayView text = Orez(pole);
+    if (text.isEmpty())
+        return QDate();
+    const qsizetype a = text.indexOf('.');
+    const qsizetype b = a < 0 ? -1 : text.indexOf('.', a + 1);
+    if (b < 0)
+        return std::nullopt;
+    const auto den = Cele_Cislo(text.first(a));
+    const auto mesic = Cele_Cislo(text.sliced(a + 1, b - a - 1));
+    const auto rok = Cele_Cislo(text.sliced(b + 1));
+    if (!den || !mesic || !rok || *rok > 9999)
+        return std::nullopt;
+    const QDate datum(*rok, *mesic, *den);
+    return datum.isValid() ? std::optional(datum) : std::nullopt;
+}
+
 QString Ukazka(QByteArrayView pole) {
     QString text = Vb::Z_1250(pole.first(std::min<qsizetype>(24, pole.size())).toByteArray());
     if (pole.size() > 24)
@@ -170,8 +189,9 @@ Import_Vysledek Importuj_Dbf(const QByteArray& bajty, const Prubeh& prubeh) {
 Import_Vysledek Importuj_Csv(const QByteArray& bajty, Den den, const Prubeh& prubeh) {
     if (const auto proc = Neni_Text_Csv(bajty))
         return Chyba(u"Soubor s tahy není textový soubor CSV, "_qs + *proc + u'.');
-    const int kod_dne = den == Den::Streda ? 3 : 7;
+    const int kod_dne = Iso_Den_Tydne(den);
     std::map<int, Rok_Zaznam> roky;
+    Dny_Tahu dny;
     Sledovani_Prubehu sledovani(prubeh, bajty.size());
     bool hlavicka = true;
     int cislo_radku = 0;
@@ -238,6 +258,9 @@ Import_Vysledek Importuj_Csv(const QByteArray& bajty, Den den, const Prubeh& pru
                 return vadny(u"tažené číslo "_qs + Cislo(*n) + u" je větší než 49."_qs);
             (i < 7 ? tah1 : tah2)[i % 7 + 1] = uint8_t(*n);
         }
+        const auto datum = Datum_Csv(pole[0]);
+        if (!datum)
+            return vadny(u"datum "_qs + Ukazka(pole[0]) + u" není ve tvaru den. měsíc. rok."_qs);
         if (*den_tahu != kod_dne)
             continue;
         Rok_Zaznam& zaznam_roku = roky[*rok];
@@ -254,9 +277,13 @@ Import_Vysledek Importuj_Csv(const QByteArray& bajty, Den den, const Prubeh& pru
             tyden_zaznam.Je_Tah2 = Vb::Pravda;
             tyden_zaznam.Tah2 = tah2;
         }
+        if (datum->isValid())
+            for (int tah = 1; tah <= (tah2[1] > 0 ? 2 : 1); ++tah)
+                dny.Pridej(*rok, *tyden, tah, *datum);
     }
     sledovani.Krok(bajty.size());
     Import_Vysledek vysledek;
+    vysledek.Dny = std::move(dny);
     vysledek.Roky.reserve(roky.size() + 1);
     for (auto& [rok, zaznam] : roky)
         vysledek.Roky.push_back(zaznam);
@@ -304,6 +331,10 @@ Vysledek Importuj_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QStrin
 
     // The source is read before anything is backed up, so a bad source changes nothing on disk;
     // the backup and the write are one step that either happens whole or leaves both files be.
+    // The dates go first: should the archive then fail, the dates of the same draws are still true.
+    if (Je_Zdroj_Csv(soubor_dbf))
+        if (const Vysledek dny = Uloz_Dny(import.Dny, adresar, archiv.Soubor_Tahu); !dny.Ok())
+            return dny;
     Archiv_Tahu nove;
     nove.Pocet_Let = import.Pocet_Let();
     nove.Pole_Tahu = std::move(import.Roky);
@@ -313,6 +344,9 @@ Vysledek Importuj_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QStrin
         return zapis;
     archiv.Pole_Tahu = std::move(nove.Pole_Tahu);
     archiv.Pocet_Let = nove.Pocet_Let;
+    if (!Je_Zdroj_Csv(soubor_dbf))
+        Uloz_Dny({}, adresar, archiv.Soubor_Tahu);
+    archiv.Dny = std::move(import.Dny);
     if (smazat_dbf == 1)
         QFile::remove(zdroj);
     return Vysledek::Uspech();

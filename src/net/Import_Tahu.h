@@ -21,6 +21,7 @@ inline constexpr qsizetype Nejdelsi_Radek_Csv = 1024;
 // the message and Roky holds element 0 alone, so nothing half-built can reach the archive.
 struct Import_Vysledek {
     std::vector<Rok_Zaznam> Roky = std::vector<Rok_Zaznam>(1);
+    Dny_Tahu Dny; // the dates of the imported draws; the dBase tables have none
     Vysledek Stav;
     int Pocet_Let() const { return int(Roky.size()) - 1; }
 };
@@ -30,8 +31,9 @@ struct Import_Vysledek {
 Import_Vysledek Importuj_Dbf(const QByteArray& bajty, const Prubeh& prubeh = {});
 
 // The CSV export "datum;rok;tyden;den;" + 14 numbers, newest first; only rows of the given day
-// (den 3 Wednesday, 7 Sunday) are taken. One year record per year, in ascending years. Text in
-// UTF-16, binary data and a line above Nejdelsi_Radek_Csv are refused.
+// (den 3 Wednesday, 5 Friday, 7 Sunday) are taken, with their dates ("d. m. rrrr"; an empty date
+// leaves the draw without one). One year record per year, in ascending years. Text in UTF-16,
+// binary data and a line above Nejdelsi_Radek_Csv are refused.
 Import_Vysledek Importuj_Csv(const QByteArray& bajty, Den den, const Prubeh& prubeh = {});
 
 // Whether the source is read as the CSV export: its name ends in ".csv".
@@ -42,8 +44,9 @@ QString Text_Chybneho_Zdroje(const QString& soubor, bool csv);
 
 // Rebuilds the archive of archiv.Soubor_Tahu from adresar/soubor_dbf (read as CSV when its name
 // ends in ".csv"). With zaloha_tahu "1" the old archive becomes its .zal (Zaloha_Souboru); with
-// smazat_dbf 1 the source goes after a good import. A failed write leaves the archive and its
-// backup as they were. Pole_Tahu and Pocet_Let change only when the new archive is on disk; the
+// smazat_dbf 1 the source goes after a good import. The .dny beside the archive is rebuilt: a CSV
+// import writes the dates it read before the archive, a dBase import, which has none, removes the
+// file after it. A failed write leaves the archive and its backup as they were. Pole_Tahu and Pocet_Let change only when the new archive is on disk; the
 // flat lists are the caller's to rebuild.
 Vysledek Importuj_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QString& soubor_dbf,
                        const QString& zaloha_tahu, int smazat_dbf, const Prubeh& prubeh = {});

@@ -15,6 +15,7 @@
 #include "app/pTikety.h"
 #include "data/Nedavne_Soubory.h"
 #include "data/Soubory.h"
+#include "archive/frmVypisTahu.h"
 #include "generator/frmGeneruj.h"
 #include "tips/Vypis_Tipu.h"
 #include "tips/Vypis_Vyher.h"
@@ -166,6 +167,7 @@ frmVypisTipu::frmVypisTipu(frmMDITombi& ram, bool vlastni, QWidget* parent)
     connect(cmdZpet, &QPushButton::clicked, this, &frmVypisTipu::cmdZpet_Click);
     connect(cmdZrusit, &QPushButton::clicked, this, [this] {
         Sezeni.Tikety.Zrusit_Beh = true;
+        Ram.Zavri_Okno<frmVypisTahu>();
         close();
     });
     connect(cmdOpakovatGener, &QPushButton::clicked, this, [this] {
@@ -189,6 +191,8 @@ void frmVypisTipu::Prevezmi(frmMDITombi&, bool vlastni) {
 void frmVypisTipu::Nacti(bool vlastni) {
     Nacita = true;
     Vlastni_Tipy = false;
+    // Beside tips of a file a click in the draw list only shows the draw.
+    Sezeni.Tipy_Zobrazeny = !vlastni;
     Pocet_Radek = 0;
     picSloupec_Vypis_Tipu->Vycisti();
     txtSoubor_Tipu->setText(Sezeni.Tipy.Jmeno_Souboru_Tipu);
@@ -657,6 +661,7 @@ void frmVypisTipu::cmdZpet_Click() {
 }
 
 void frmVypisTipu::closeEvent(QCloseEvent* udalost) {
+    Sezeni.Tipy_Zobrazeny = false;
     Sezeni.Sluzby->Nastav_Status(QString(), QString());
     Sezeni.Sluzby->Nastav_Aktivni_Poradi(QString());
     Vlastni_Tipy = false;
@@ -674,8 +679,9 @@ void frmVypisTipu::Pripoj_Prikazy(frmMDITombi& ram) {
             ram.Sezeni().Sluzby->Zprava(u"Není soubor tipů."_qs);
     });
     ram.Obsluz(ram.mnuVlastniTipy, [&ram] {
-        // The draw list and the bettors' list close here too once they are built.
+        // The bettors' list closes here too once it is built.
         ram.Zavri_Okno<frmGeneruj>();
+        ram.Zavri_Okno<frmVypisTahu>();
         ram.Zavri_Okno<frmVypisTipu>();
         ram.Otevri_Okno<frmVypisTipu>(ram, true);
         ram.Sezeni().Sluzby->Nastav_Status(QString(), QString());

@@ -6,6 +6,7 @@
 #include "app/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmOvladani.h"
+#include "data/Dny_Tahu.h"
 #include "tips/Srovnani.h"
 #include "tips/frmVypisTipu_Vyhry.h"
 
@@ -438,8 +439,7 @@ void frmVypisTipu_Vyhodnoceni::Zobraz_Tah(int tah, int index) {
         Nastav_Barvu(Box(tah, i), Qt::white);
     }
     const auto [rok, tyden] = Rok_A_Tyden(Sezeni.Archiv, tah, index);
-    lblTahCislo[std::size_t(tah - 1)]->setText(
-        rok > 0 ? u" %1. týden %2 "_qs.arg(tyden).arg(rok) : QString());
+    lblTahCislo[std::size_t(tah - 1)]->setText(rok > 0 ? Den_Tahu_Text(Sezeni.Archiv, tah, rok, tyden) : QString());
     emit Tah_Zobrazen();
 }
 

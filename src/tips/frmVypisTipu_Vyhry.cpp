@@ -8,6 +8,7 @@
 #include "app/frmKresleni.h"
 #include "app/frmOvladani.h"
 #include "app/frmTiskarna.h"
+#include "app/modTombi.h"
 
 #include <QAbstractListModel>
 #include <QEvent>
@@ -94,8 +95,9 @@ frmVypisTipu_Vyhry::frmVypisTipu_Vyhry(Relace& sezeni, QWidget* parent)
     rozlozeni->addWidget(Seznamy(), 3);
 
     // Prizes of the draw day of the archive, the stake of the file and its Šance.
-    optTyden[std::size_t(Sezeni.Tikety.Den_Tahu == 1 ? 1 : 0)]->setChecked(true);
-    optTyden_Click(Sezeni.Tikety.Den_Tahu == 1 ? 1 : 0);
+    const int den = std::size_t(Sezeni.Tikety.Den_Tahu) < optTyden.size() ? Sezeni.Tikety.Den_Tahu : 0;
+    optTyden[std::size_t(den)]->setChecked(true);
+    optTyden_Click(den);
     Prepis(txtVklad, Vb::Format(Sezeni.Tikety.Vklad.Korun(), u"### ### ###"));
     Prepis(txtSance, Vb::Format(Sezeni.Tikety.Vklad_Sance.Korun(), u"### ### ###"));
     cmdSance->setText(Sezeni.Tikety.Vklad_Sance.Hodnota > 0 ? Okno.Text(u"cmdSance.Plus"_qs) : Okno.Text(u"cmdSance"_qs));
@@ -122,10 +124,17 @@ QWidget* frmVypisTipu_Vyhry::Tabulka_Cen() {
     auto* ramec = Okno.Pojmenuj(new QGroupBox(this), u"frmCenyTahu"_qs);
     auto* mrizka = new QGridLayout(ramec);
     mrizka->setVerticalSpacing(1);
-    for (int i = 0; i < 2; ++i) {
+    // The days in the order of the week; the index is the day's Den_Tahu.
+    auto* dny = new QHBoxLayout;
+    for (const Den den : Dny_Losovani) {
+        const int i = int(den);
         optTyden[std::size_t(i)] = Okno.Pojmenuj(new QRadioButton(ramec), Indexem(u"optTyden"_qs, i));
-        mrizka->addWidget(optTyden[std::size_t(i)], 0, 1 + 3 * i, 1, 2);
+        dny->addWidget(optTyden[std::size_t(i)]);
         connect(optTyden[std::size_t(i)], &QRadioButton::clicked, this, [this, i] { optTyden_Click(i); });
+    }
+    dny->addStretch(1);
+    mrizka->addLayout(dny, 0, 0, 1, 6);
+    for (int i = 0; i < 2; ++i) {
         auto* hlava = new QLabel(Okno.Text(u"lblPocPorKc"_qs), ramec);
         hlava->setObjectName(Indexem(u"lblPocPorKc"_qs, i));
         mrizka->addWidget(hlava, 1, 1 + 3 * i, 1, 2);
@@ -223,7 +232,7 @@ void frmVypisTipu_Vyhry::Prepis(QLineEdit* pole, const QString& text) {
 // ---- Prizes and sums ----
 
 void frmVypisTipu_Vyhry::optTyden_Click(int index) {
-    const auto& ceny = index == 0 ? Sezeni.Nastaveni.Ceny_Nedele : Sezeni.Nastaveni.Ceny_Streda;
+    const std::array<Vb::Mena, 10> ceny = modTombi::Ceny_Dne_Tahu(Sezeni, Den(index));
     for (std::size_t i = 0; i < 5; ++i) {
         Tah1Vyhra[i]->setText(Vb::Text(ceny[i].Korun()));
         Tah2Vyhra[i]->setText(Vb::Text(ceny[i + 5].Korun()));

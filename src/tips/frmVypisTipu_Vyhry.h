@@ -49,7 +49,7 @@ public:
     void Tiskni_Vyhravajici_Tikety();
     void Tiskni_Vyherni_Listinu(const std::vector<Vyhra_Sazejiciho>& sazejici);
 
-    std::array<QRadioButton*, 2> optTyden{};
+    std::array<QRadioButton*, 3> optTyden{}; // by Den_Tahu: 0 Sunday, 1 Wednesday, 2 Friday
     std::array<QLineEdit*, 5> Tah1Vyhra{};
     std::array<QLineEdit*, 5> Tah2Vyhra{};
     std::array<QLineEdit*, 5> Tah1Cena{};

@@ -23,6 +23,8 @@
 #include "app/frmTombi_uvod.h"
 #include "analysis/frmAnalyzaTahu.h"
 #include "analysis/frmAnalyzaTahu_Graf.h"
+#include "analysis/frmVypisAnalyz.h"
+#include "archive/frmVypisTahu.h"
 #include <QTabWidget>
 #include "data/Chyby_A_Prehled.h"
 #include "data/Soubory.h"
@@ -37,6 +39,9 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextEdit>
 #include <QTest>
 
 #include <functional>
@@ -54,7 +59,7 @@ struct Snimek {
 // numbers picked.
 QWidget* Cetnost_52(bool graf) {
     static std::vector<std::unique_ptr<Prostredi>> prostredi_snimku;
-    prostredi_snimku.push_back(std::make_unique<Prostredi>(QDate(2026, 11, 26)));
+    prostredi_snimku.push_back(std::make_unique<Prostredi>(QDate(2026, 11, 28)));
     Prostredi& prostredi = *prostredi_snimku.back();
     prostredi.Spust().resize(1000, 720);
     prostredi.Prikaz(u"mnuAnalyza"_qs)->trigger();
@@ -70,10 +75,10 @@ QWidget* Cetnost_52(bool graf) {
     return prostredi.Okno.release();
 }
 
-// The start on a Thursday without the Sunday archive, as the screen shows it: the main window,
+// The start on a Saturday without the Sunday archive, as the screen shows it: the main window,
 // the splash and the notice over it, each painted where it stands.
 QWidget* Start_Bez_Archivu() {
-    Prostredi prostredi(QDate(2026, 11, 26));
+    Prostredi prostredi(QDate(2026, 11, 28));
     QFile::remove(prostredi.Cesta(u"SpN_tahy.sez"_qs));
     frmMDITombi& okno = prostredi.Spust();
     if (!QTest::qWaitForWindowExposed(&okno))
@@ -135,10 +140,10 @@ int main(int argc, char** argv) {
              const QString cesta = slozka.filePath(Soubor_Prehledu);
              return new frmPrehled(cesta);
          }},
-        // The tip list of a Thursday evening: 24 tips, the second tip chosen and crossed.
+        // The tip list of a Saturday evening: 24 tips, the second tip chosen and crossed.
         {u"frmVypisTipu"_qs,
          [](QWidget*) -> QWidget* {
-             static Prostredi prostredi(QDate(2026, 11, 26));
+             static Prostredi prostredi(QDate(2026, 11, 28));
              Uloz_Soubor(prostredi.Cesta(u"261126_24.tip"_qs), Soubor_Tipu(24));
              prostredi.Spust();
              prostredi.Otevri_Tipy(u"261126_24.tip"_qs);
@@ -149,7 +154,7 @@ int main(int argc, char** argv) {
         // The same list after an evaluation of a typed draw, prizes filled in and a win chosen.
         {u"frmVypisTipu_Vyhodnoceni"_qs,
          [](QWidget*) -> QWidget* {
-             static Prostredi prostredi(QDate(2026, 11, 26));
+             static Prostredi prostredi(QDate(2026, 11, 28));
              Uloz_Soubor(prostredi.Cesta(u"261126_24.tip"_qs), Soubor_Tipu(24));
              prostredi.Spust().resize(880, 800);
              prostredi.Otevri_Tipy(u"261126_24.tip"_qs);
@@ -169,7 +174,7 @@ int main(int argc, char** argv) {
         // Tips entered by hand with the on-line analysis, and the choice of tips by pattern.
         {u"frmVypisTipu_Analyza"_qs,
          [](QWidget*) -> QWidget* {
-             static Prostredi prostredi(QDate(2026, 11, 26));
+             static Prostredi prostredi(QDate(2026, 11, 28));
              Uloz_Soubor(prostredi.Cesta(u"261126_24.tip"_qs), Soubor_Tipu(24));
              prostredi.Spust().resize(880, 700);
              prostredi.Otevri_Tipy(u"261126_24.tip"_qs);
@@ -181,7 +186,7 @@ int main(int argc, char** argv) {
          }},
         {u"frmVypisTipu_Vyber"_qs,
          [](QWidget*) -> QWidget* {
-             static Prostredi prostredi(QDate(2026, 11, 26));
+             static Prostredi prostredi(QDate(2026, 11, 28));
              Uloz_Soubor(prostredi.Cesta(u"261126_24.tip"_qs), Soubor_Tipu(24));
              prostredi.Spust().resize(880, 700);
              prostredi.Otevri_Tipy(u"261126_24.tip"_qs);
@@ -191,7 +196,7 @@ int main(int argc, char** argv) {
         // The tips of joined wheels with the numbers they use.
         {u"frmVypisTipuVsech"_qs,
          [](QWidget*) -> QWidget* {
-             static Prostredi prostredi(QDate(2026, 11, 26));
+             static Prostredi prostredi(QDate(2026, 11, 28));
              frmMDITombi& okno = prostredi.Spust();
              auto* vsech = okno.Otevri_Okno<frmVypisTipuVsech>(okno);
              QString tipy;
@@ -204,11 +209,30 @@ int main(int argc, char** argv) {
         // The frequency of numbers over the last 52 draws, as the report and as the chart.
         {u"frmAnalyzaTahu"_qs, [](QWidget*) { return Cetnost_52(false); }},
         {u"frmAnalyzaTahu_Graf"_qs, [](QWidget*) { return Cetnost_52(true); }},
+        // The viewer beside the analysis: the frequency of the last 52 draws written to _Analyza.txt,
+        // one count line picked with the mouse.
+        {u"frmVypisAnalyz"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 26));
+             prostredi.Spust().resize(1000, 720);
+             prostredi.Data->Nastaveni.Zapis_Analyzy = 1;
+             prostredi.Data->Nastaveni.Otevirat_Soubor = 1;
+             prostredi.Prikaz(u"mnuAnalyza"_qs)->trigger();
+             auto* analyza = prostredi.Okno->Najdi_Okno<frmAnalyzaTahu>();
+             analyza->txtPocet_1Tahu->setText(u"52"_qs);
+             analyza->txtPocet_2Tahu->setText(u"52"_qs);
+             analyza->cmdOK->click();
+             auto* vypis = prostredi.Okno->Najdi_Okno<frmVypisAnalyz>();
+             QTextCursor radek = vypis->rtbVypis_Analyz[0]->document()->find(u" 9x - "_qs);
+             radek.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+             vypis->Vyber_Cisla(0, radek.selectedText());
+             return prostredi.Okno.release();
+         }},
         // The generator with numbers taken from the status band, a tutovka by a right click and two
         // filters on.
         {u"frmGeneruj"_qs,
          [](QWidget*) -> QWidget* {
-             static Prostredi prostredi(QDate(2026, 11, 26));
+             static Prostredi prostredi(QDate(2026, 11, 28));
              frmMDITombi& okno = prostredi.Spust();
              okno.resize(1060, 720);
              prostredi.Data->Sluzby->Nastav_Status(u" 2 7 11 16 19 23 28 31 35 38 42 46"_qs, u"12"_qs);
@@ -231,14 +255,39 @@ int main(int argc, char** argv) {
         {u"frmPismo"_qs,
          [](QWidget*) -> QWidget* { return new frmPismo(QFont(u"DejaVu Sans"_qs, 10), QColor(128, 0, 0)); }},
         {u"frmOProgramu"_qs, [](QWidget*) -> QWidget* { return new frmOProgramu(QStringLiteral(TOMBI_VERZE)); }},
-        // The frame as a user meets it on a Thursday evening: the Sunday archive and a tip file open.
+        // The frame as a user meets it on a Saturday evening: the Sunday archive and a tip file open.
+        // The draw list over the Sunday archive, the newest first draw clicked with its supplementary
+        // number.
+        {u"frmVypisTahu"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 28));
+             frmMDITombi& okno = prostredi.Spust();
+             okno.resize(1000, 560);
+             prostredi.Prikaz(u"mnuVypisTahu"_qs)->trigger();
+             auto* tahy = okno.Najdi_Okno<frmVypisTahu>();
+             tahy->chkDodatkova->setChecked(true);
+             tahy->List1Tah->setCurrentRow(tahy->List1Tah->count() - 1);
+             return prostredi.Okno.release();
+         }},
         {u"frmMDITombi"_qs,
          [](QWidget*) -> QWidget* {
-             static Prostredi prostredi(QDate(2026, 11, 26));
+             static Prostredi prostredi(QDate(2026, 11, 28));
              Uloz_Soubor(prostredi.Cesta(u"251126_24.tip"_qs), Soubor_Tipu(24));
              prostredi.Spust();
              prostredi.Otevri_Tipy(u"251126_24.tip"_qs);
              prostredi.Data->Sluzby->Nastav_Status(u" 3 11 19 27 36 44"_qs, u"6"_qs);
+             return prostredi.Okno.release();
+         }},
+        // A Friday: the Friday draw chosen, its tip list showing the newest draw with its date.
+        {u"frmMDITombi_Patek"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 27));
+             Uloz_Soubor(prostredi.Cesta(u"271126_24.tip"_qs), Soubor_Tipu(24));
+             prostredi.Spust().resize(1000, 720);
+             prostredi.Otevri_Tipy(u"271126_24.tip"_qs);
+             auto* panel = prostredi.Okno->Najdi_Okno<frmVypisTipu>()->Vyhodnoceni;
+             panel->txtPocet_1Tahu->setText(u"1"_qs);
+             panel->txtPocet_2Tahu->setText(u"1"_qs);
              return prostredi.Okno.release();
          }},
     };

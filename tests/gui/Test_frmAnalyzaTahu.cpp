@@ -33,7 +33,7 @@ class Test_frmAnalyzaTahu final : public QObject {
 
 private slots:
     void Behy_A_Popis() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         prostredi.Spust();
         frmAnalyzaTahu* okno = Otevri(prostredi);
         QVERIFY(okno != nullptr);
@@ -102,7 +102,7 @@ private slots:
     }
 
     void Soubor_A_Automaticky() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         Nastaveni_Zaznam& n = prostredi.Data->Nastaveni;
         prostredi.Spust();
         n.Zapis_Analyzy = 1;

@@ -40,7 +40,7 @@ class Test_frmGeneruj final : public QObject {
 
 private slots:
     void Beh_A_Predani() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         frmMDITombi& okno = prostredi.Spust();
         frmGeneruj* generator = Otevri_Generator(prostredi);
         QVERIFY(generator != nullptr);
@@ -80,7 +80,7 @@ private slots:
     }
 
     void Zastaveni_Behu() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         frmMDITombi& okno = prostredi.Spust();
         frmGeneruj* generator = Otevri_Generator(prostredi);
         Napis(generator->txtPoc_Tipu, u"9500"_qs);
@@ -111,7 +111,7 @@ private slots:
     }
 
     void Pocty_A_Kontrola() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         frmMDITombi& okno = prostredi.Spust();
         QApplication::setActiveWindow(&okno);
         frmGeneruj* generator = Otevri_Generator(prostredi);
@@ -147,7 +147,7 @@ private slots:
     }
 
     void Sazejici_A_Cisla_Ze_Stavu() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         frmMDITombi& okno = prostredi.Spust();
         prostredi.Data->Pocet_Sazejicich = 4;
         frmGeneruj* generator = Otevri_Generator(prostredi);

@@ -43,7 +43,7 @@ class Test_frmGeneruj_Omezeni final : public QObject {
 
 private slots:
     void Limity() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         prostredi.Spust();
         Relace& s = *prostredi.Data;
         Panel panel(s);
@@ -107,7 +107,7 @@ private slots:
     }
 
     void Stav_A_Rezimy() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         prostredi.Spust();
         Relace& s = *prostredi.Data;
         Zadani_Generatoru& stav = s.Generator.Omezeni;

@@ -49,7 +49,7 @@ class Test_frmGeneruj_Vyber final : public QObject {
 
 private slots:
     void Klik_Rozsah_Zamena() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         frmMDITombi& okno = prostredi.Spust();
         QWidget rodic;
         frmGeneruj_Vyber panel(okno, &rodic);
@@ -132,7 +132,7 @@ private slots:
     }
 
     void Soubory_Text_A_Vybirac() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         frmMDITombi& okno = prostredi.Spust();
         QWidget rodic;
         frmGeneruj_Vyber panel(okno, &rodic);

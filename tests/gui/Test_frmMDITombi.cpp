@@ -41,7 +41,8 @@
 namespace {
 
 const QDate Streda(2026, 11, 25);
-const QDate Ctvrtek(2026, 11, 26);
+// Saturday takes the Sunday draw.
+const QDate Sobota(2026, 11, 28);
 
 // An old-format file: one ticket of three tips, shorter than the tip counter of the current format.
 QByteArray Stary_Soubor_Tipu() {
@@ -70,30 +71,48 @@ private slots:
         QVERIFY(streda.Data->Dalsi_Tah.isEmpty());
         QVERIFY(streda.Prvek<QLineEdit>(u"txtSportka_Tah"_qs)->toolTip().isEmpty());
 
-        Prostredi ctvrtek(Ctvrtek);
-        frmMDITombi& okno = ctvrtek.Spust();
-        QCOMPARE(ctvrtek.Prvek<QLineEdit>(u"txtSportka_Tah"_qs)->text(), u"NEDĚLE"_qs);
-        QVERIFY(ctvrtek.Prikaz(u"mnuSportka_nedele"_qs)->isChecked());
-        QVERIFY(!ctvrtek.Prikaz(u"mnuSportka_streda"_qs)->isChecked());
-        QCOMPARE(ctvrtek.Data->Dalsi_Tah, u"29.11.2026"_qs);
-        QCOMPARE(ctvrtek.Prvek<QLineEdit>(u"txtSportka_Tah"_qs)->toolTip(),
+        // Thursday and Friday take the Friday draw, whose next draw is that Friday.
+        for (const QDate& den : {QDate(2026, 11, 26), QDate(2026, 11, 27)}) {
+            Prostredi patek(den);
+            patek.Spust();
+            QCOMPARE(patek.Prvek<QLineEdit>(u"txtSportka_Tah"_qs)->text(), u"PÁTEK"_qs);
+            QVERIFY(patek.Prikaz(u"mnuSportka_patek"_qs)->isChecked());
+            QCOMPARE(patek.Prikaz(u"mnuSportka_patek"_qs)->text(), u"&Pátek"_qs);
+            QCOMPARE(patek.Data->Dalsi_Tah, u"27.11.2026"_qs);
+            QCOMPARE(int(patek.Data->Tikety.Den_Tahu), 2);
+            QCOMPARE(patek.Data->Archiv.Soubor_Tahu, u"SpP_tahy.sez"_qs);
+            QCOMPARE(patek.Data->Archiv.Rok_Zacatek_1, int16_t(2020));
+            QCOMPARE(std::pair(patek.Data->Archiv.Pocet_Tahy_1, patek.Data->Archiv.Pocet_Tahy_2), std::pair(418, 418));
+        }
+
+        Prostredi sobota(Sobota);
+        frmMDITombi& okno = sobota.Spust();
+        QCOMPARE(sobota.Prvek<QLineEdit>(u"txtSportka_Tah"_qs)->text(), u"NEDĚLE"_qs);
+        QVERIFY(sobota.Prikaz(u"mnuSportka_nedele"_qs)->isChecked());
+        QVERIFY(!sobota.Prikaz(u"mnuSportka_streda"_qs)->isChecked());
+        QCOMPARE(sobota.Data->Dalsi_Tah, u"29.11.2026"_qs);
+        QCOMPARE(sobota.Prvek<QLineEdit>(u"txtSportka_Tah"_qs)->toolTip(),
                  u"Data tahů, následující tah dne 29.11.2026"_qs);
-        QVERIFY(ctvrtek.Data->Archiv.Pocet_Let > 0);
+        QVERIFY(sobota.Data->Archiv.Pocet_Let > 0);
         QVERIFY(!okno.Bez_Tahu());
+        // Friday stands between the other two days.
+        const QList<QAction*> dny = okno.mnuVolbaTahu->actions();
+        QCOMPARE(QStringList({dny[0]->objectName(), dny[1]->objectName(), dny[2]->objectName()}),
+                 (QStringList{u"mnuSportka_streda"_qs, u"mnuSportka_patek"_qs, u"mnuSportka_nedele"_qs}));
 
         // Every command has its caption from the table, blanks and all.
         for (QAction* prikaz : okno.findChildren<QAction*>())
             if (prikaz->objectName().startsWith(u"mnu"_qs) && !prikaz->objectName().contains(u'('))
                 QVERIFY2(!prikaz->text().isEmpty(), qPrintable(prikaz->objectName()));
-        QCOMPARE(ctvrtek.Prvek(u"lblAktivniPoradi"_qs)->toolTip(),
+        QCOMPARE(sobota.Prvek(u"lblAktivniPoradi"_qs)->toolTip(),
                  u" Pořadové číslo vybraného tahu nebo tipu celkem / v tiketu. "_qs);
-        QVERIFY(!ctvrtek.Prikaz(u"mnuExportTipu"_qs)->isEnabled());
-        QVERIFY(ctvrtek.Prikaz(u"mnuOtevriSouborTipu"_qs)->isEnabled());
+        QVERIFY(!sobota.Prikaz(u"mnuExportTipu"_qs)->isEnabled());
+        QVERIFY(sobota.Prikaz(u"mnuOtevriSouborTipu"_qs)->isEnabled());
     }
 
     void Misto_Okna() {
         {
-            Prostredi prostredi(Ctvrtek);
+            Prostredi prostredi(Sobota);
             Nastaveni_Zaznam nastaveni = Vychozi_Nastaveni(prostredi.Slozka.path(), u"2.0"_qs);
             nastaveni.Okno_Sirka = 5000;
             nastaveni.Okno_Vyska = 9000;
@@ -107,7 +126,7 @@ private slots:
             QVERIFY(plocha.contains(okno.frameGeometry()));
         }
         // A stored place is taken, and the close stores it again.
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         Nastaveni_Zaznam nastaveni = Vychozi_Nastaveni(prostredi.Slozka.path(), u"2.0"_qs);
         nastaveni.Okno_Leva = 1500;
         nastaveni.Okno_Horni = 1200;
@@ -130,7 +149,7 @@ private slots:
     }
 
     void Den_Bez_Archivu() {
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         QFile::remove(prostredi.Cesta(u"SpS_tahy.sez"_qs));
         frmMDITombi& okno = prostredi.Spust();
         auto* den = prostredi.Prvek<QLineEdit>(u"txtSportka_Tah"_qs);
@@ -154,12 +173,12 @@ private slots:
     }
 
     void Zavreni() {
-        Prostredi beze_zmeny(Ctvrtek);
+        Prostredi beze_zmeny(Sobota);
         QVERIFY(beze_zmeny.Spust().close());
         QVERIFY(beze_zmeny.Dialogy.Okna.isEmpty());
         QVERIFY(QFile::exists(beze_zmeny.Cesta(u"tombi.cfg"_qs)));
 
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         frmMDITombi& okno = prostredi.Spust();
         prostredi.Data->Tikety.Zmena_Dat = true;
         QVERIFY(!okno.close());
@@ -173,7 +192,7 @@ private slots:
     }
 
     void Nedavne_Soubory_Tipu() {
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         prostredi.Spust();
         for (int i = 1; i <= 9; ++i) {
             Zapis_Souboru(prostredi.Cesta(u"t%1.tip"_qs.arg(i)), Soubor_Tipu(i));
@@ -207,7 +226,7 @@ private slots:
     }
 
     void Otevreni_Souboru_Tipu() {
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         frmMDITombi& okno = prostredi.Spust();
         auto* pocet = prostredi.Prvek<QLabel>(u"lblSoubor_Tipu"_qs);
         for (const auto& [tipu, text] : {std::pair{1, u"1 tip"_qs}, {3, u"3 tipy"_qs}, {5, u"5 tipů"_qs}}) {
@@ -250,7 +269,7 @@ private slots:
     }
 
     void Zpravy_A_Kliknuti() {
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         frmMDITombi& okno = prostredi.Spust();
         frmMDITombi_Sluzby& sluzby = okno.Sluzby();
         sluzby.Zprava(u"první"_qs);
@@ -275,7 +294,7 @@ private slots:
     }
 
     void Prace_A_Pas_Stavu() {
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         frmMDITombi& okno = prostredi.Spust();
         auto* rozpis = prostredi.Prvek<QLineEdit>(u"txtRozpisAktivni"_qs);
         auto* pocet = prostredi.Prvek<QLineEdit>(u"txtPocet_Vybranych"_qs);
@@ -324,7 +343,7 @@ private slots:
     }
 
     void Povoleni_A_Zamky() {
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         frmMDITombi& okno = prostredi.Spust();
         // Every command is either connected or waits for its window, never both, never neither.
         for (QAction* prikaz : okno.findChildren<QAction*>()) {
@@ -344,7 +363,7 @@ private slots:
     }
 
     void Start_Bez_Archivu() {
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         QFile::remove(prostredi.Cesta(u"SpN_tahy.sez"_qs));
         frmMDITombi& okno = prostredi.Spust();
         auto* uvod = okno.findChild<frmTombi_uvod*>();
@@ -359,7 +378,7 @@ private slots:
     }
 
     void Maximalizovane_Okno() {
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         frmMDITombi* okno = &prostredi.Spust();
         const QRect normalni = okno->geometry();
         okno->showMaximized();
@@ -374,7 +393,7 @@ private slots:
     }
 
     void Aktualizace_Tahu() {
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         frmMDITombi& okno = prostredi.Spust();
         const int let = prostredi.Data->Archiv.Pocet_Let;
         prostredi.Prikaz(u"mnuAktualizaceTahu"_qs)->trigger();
@@ -397,8 +416,36 @@ private slots:
         QCOMPARE(prostredi.Prvek<QLineEdit>(u"txtSportka_Tah"_qs)->text(), u"NEDĚLE"_qs);
     }
 
+    void Patek_Aktualizace_A_Obnova() {
+        // The Friday draw comes from the operator's CSV export, with its dates, and goes back to
+        // the backup that the import left.
+        Prostredi prostredi(QDate(2026, 11, 27));
+        frmMDITombi& okno = prostredi.Spust();
+        prostredi.Data->Nastaveni.Zaloha_Tahu = u"1"_qs;
+        Zapis_Souboru(prostredi.Cesta(u"sportka.csv"_qs),
+                      "datum;rok;tyden;den;\n"
+                      "9. 1. 2026;2026;02;5;48;20;14;41;45;27;10;20;16;27;13;30;18;44\n"
+                      "7. 1. 2026;2026;02;3;47;10;14;45;31;33;40;48;19;11;20;15;10;38\n"
+                      "3. 1. 2026;2026;01;5;1;2;3;4;5;6;7;;;;;;;\n");
+        prostredi.Prikaz(u"mnuAktualizaceTahu"_qs)->trigger();
+        QVERIFY(prostredi.Oznameni().isEmpty());
+        const Archiv_Tahu& archiv = prostredi.Data->Archiv;
+        QCOMPARE(std::pair(archiv.Pocet_Tahy_1, archiv.Pocet_Tahy_2), std::pair(2, 1));
+        // 3 January is the operator's date; ISO week 1 of 2026 has its Friday on the 2nd.
+        QCOMPARE(Den_Tahu_Text(archiv, 1, 2026, 1), u" 03.01.2026 "_qs);
+        QCOMPARE(Obsah_Souboru(prostredi.Cesta(u"SpP_tahy.dny"_qs)),
+                 QByteArray("2026 1 1 03.01.2026\r\n2026 2 1 09.01.2026\r\n2026 2 2 09.01.2026\r\n"));
+
+        prostredi.Dialogy.Odpovedi.enqueue(Dialogy::Odpoved::Ano);
+        prostredi.Prikaz(u"mnuObnovaDatTahu"_qs)->trigger();
+        QVERIFY(prostredi.Dialogy.Okna.last().endsWith(u"Opravdu provést návrat dat tahů PÁTEK"_qs));
+        QCOMPARE(archiv.Pocet_Tahy_1, 418);
+        QCOMPARE(prostredi.Prvek<QLineEdit>(u"txtSportka_Tah"_qs)->text(), u"PÁTEK"_qs);
+        QVERIFY(!okno.Bez_Tahu());
+    }
+
     void Prehled_A_Web() {
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         frmMDITombi& okno = prostredi.Spust();
         QStringList spusteno;
         okno.Otevri_Adresu = [&spusteno](const QUrl& adresa) {
@@ -425,7 +472,7 @@ private slots:
     }
 
     void Okna_V_Plose() {
-        Prostredi prostredi(Ctvrtek);
+        Prostredi prostredi(Sobota);
         frmMDITombi& okno = prostredi.Spust();
         const auto otevrena = [&okno] {
             int pocet = 0;

@@ -31,7 +31,7 @@ class Test_frmVypisTipu final : public QObject {
 
 private slots:
     void Seznam_Tipu() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         Zapis_Souboru(prostredi.Cesta(u"t25.tip"_qs), Soubor_Tipu(25));
         frmMDITombi& okno = prostredi.Spust();
         prostredi.Otevri_Tipy(u"t25.tip"_qs);
@@ -86,7 +86,7 @@ private slots:
     }
 
     void Vlastni_Tipy() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         Zapis_Souboru(prostredi.Cesta(u"t10.tip"_qs), Soubor_Tipu(10));
         frmMDITombi& okno = prostredi.Spust();
         prostredi.Otevri_Tipy(u"t10.tip"_qs);

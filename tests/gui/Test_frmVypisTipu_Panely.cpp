@@ -34,7 +34,7 @@ class Test_frmVypisTipu_Panely final : public QObject {
 
 private slots:
     void Vyber_Tipu() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         Relace& sezeni = prostredi.Spust().Sezeni();
         Pridej(sezeni, {{1, 2, 3, 4, 5, 6}, {2, 4, 6, 8, 10, 12}, {1, 3, 5, 7, 9, 11}, {1, 2, 3, 10, 20, 30}});
         sezeni.Nastaveni.Vyloucit_Sud_Lich[6] = 1; // 0/6, one tip
@@ -103,7 +103,7 @@ private slots:
     }
 
     void Analyza_On_Line() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         Relace& sezeni = prostredi.Spust().Sezeni();
         Pridej(sezeni, {{1, 2, 3, 4, 5, 6}, {1, 2, 3, 4, 8, 9}, {1, 2, 3, 10, 11, 12}, {4, 20, 30, 40, 41, 42}});
         sezeni.Tipy.Pocet_Tipu_Celkem = 2; // the last two are not listed

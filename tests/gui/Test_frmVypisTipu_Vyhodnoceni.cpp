@@ -6,6 +6,7 @@
 #include "app/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmSloupec_Tiketu.h"
+#include "app/modTombi.h"
 #include "app/pTikety.h"
 #include "tips/frmVypisTipu.h"
 #include "tips/frmVypisTipu_Vyhodnoceni.h"
@@ -57,7 +58,7 @@ class Test_frmVypisTipu_Vyhodnoceni final : public QObject {
 
 private slots:
     void Tazena_Cisla_A_Penize() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         frmVypisTipu* vypis = Otevri(prostredi, 25);
         frmVypisTipu_Vyhodnoceni* panel = vypis->Vyhodnoceni;
         frmVypisTipu_Vyhry* vyhry = vypis->Vyhry;
@@ -121,7 +122,7 @@ private slots:
     }
 
     void Soubor_V_Tazich_A_Tisk() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         frmVypisTipu* vypis = Otevri(prostredi, 25);
         frmVypisTipu_Vyhodnoceni* panel = vypis->Vyhodnoceni;
         frmVypisTipu_Vyhry* vyhry = vypis->Vyhry;
@@ -163,14 +164,40 @@ private slots:
         prostredi.Dialogy.Tiskarny.enqueue(true);
         vyhry->Tiskni_Vyherni_Listinu({{u"Jan Novák"_qs, 1500}, {QString(120, u'W'), 20}});
         const QString listina = Text_Pdf(prostredi.Dialogy.Pdf);
-        QVERIFY(listina.contains(u"Výherní listina ze dne 26.11.26"_qs));
+        QVERIFY(listina.contains(u"Výherní listina ze dne 28.11.26"_qs));
         QVERIFY(listina.contains(u"Jan Novák"_qs));
         QVERIFY(listina.contains(u"1 500,-"_qs));
     }
 
+    void Patek_Ceny_A_Data_Tahu() {
+        // On a Friday the prizes are Friday's, from the settings store, and a draw shown from the
+        // archive carries the operator's date.
+        Prostredi prostredi(QDate(2026, 11, 27));
+        std::array<Vb::Mena, 10> ceny{};
+        ceny[0] = Vb::Mena::Z_Korun(20000000);
+        ceny[5] = Vb::Mena::Z_Korun(1000000);
+        modTombi::Uloz_Ceny_Patku(*prostredi.Data, ceny);
+        frmVypisTipu* vypis = Otevri(prostredi, 25);
+        frmVypisTipu_Vyhry* vyhry = vypis->Vyhry;
+        QVERIFY(vyhry->optTyden[2]->isChecked());
+        QCOMPARE(vyhry->optTyden[2]->text(), u"pátek"_qs);
+        QCOMPARE(std::pair(Hodnota(vyhry->Tah1Vyhra[0]), Hodnota(vyhry->Tah2Vyhra[0])), std::pair(20000000.0, 1000000.0));
+        prostredi.Data->Nastaveni.Ceny_Streda[0] = Vb::Mena::Z_Korun(5000);
+        vyhry->optTyden[1]->click();
+        QCOMPARE(Hodnota(vyhry->Tah1Vyhra[0]), 5000.0);
+
+        frmVypisTipu_Vyhodnoceni* panel = vypis->Vyhodnoceni;
+        panel->txtPocet_1Tahu->setText(u"1"_qs);
+        QCOMPARE(panel->lblTahCislo[0]->text(), u" 09.01.2026 "_qs);
+        QCOMPARE(panel->Tah1[0]->text(), u"48"_qs);
+        // The second Friday draw of the archive, a one-off of 2006.
+        panel->txtPocet_2Tahu->setText(u"417"_qs);
+        QCOMPARE(panel->lblTahCislo[1]->text(), u" 15.09.2006 "_qs);
+    }
+
     void Velky_Soubor() {
         // More than 950 tips go against the newest second draw only.
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         frmVypisTipu* vypis = Otevri(prostredi, 960);
         QTest::mouseClick(vypis->Vyhodnoceni->Typ_Vyhodnoceni[2], Qt::LeftButton);
         QCOMPARE(vypis->Vyhodnoceni->txtPocet_2Tahu->text(), u"1"_qs);
@@ -178,7 +205,7 @@ private slots:
     }
 
     void Vypis_Vsech_Tipu() {
-        Prostredi prostredi(QDate(2026, 11, 26));
+        Prostredi prostredi(QDate(2026, 11, 28));
         frmMDITombi& okno = prostredi.Spust();
         auto* vsech = okno.Otevri_Okno<frmVypisTipuVsech>(okno);
         QVERIFY(prostredi.Data->Vypis_Tipu_Vsech_Otevren);

@@ -76,6 +76,7 @@ Archiv_Tahu Archiv_Z_Historie(Den den) {
     const Import_Vysledek import = Importuj_Csv(csv.readAll(), den);
     a.Pole_Tahu = import.Roky;
     a.Pocet_Let = import.Pocet_Let();
+    a.Dny = import.Dny;
     Priprav_Seznamy_Tahu(a);
     return a;
 }

@@ -42,5 +42,6 @@ bool Podle_Prav_Souboru(const std::function<void()>& f);
 // The peak memory of the process so far, in MiB.
 int64_t Spicka_Pameti_MiB();
 
-// The archive of a draw day imported from the operator's history (TOMBI_HISTORIE), lists ready.
+// The archive of a draw day imported from the operator's history (TOMBI_HISTORIE), with its dates,
+// lists ready.
 Archiv_Tahu Archiv_Z_Historie(Den den);

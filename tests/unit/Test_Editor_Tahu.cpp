@@ -34,13 +34,13 @@ class Test_Editor_Tahu final : public QObject {
 private slots:
     void tvary_radku() {
         QCOMPARE(Radek_Roku(2026), u" 2026"_qs);
-        QCOMPARE(Radek_Tahu(5, T({3, 12, 0, 45, 7, 49, 8})), u"5   -     3  12     45    7  49 - 8"_qs);
-        QCOMPARE(Radek_Tahu(47, T({10, 20, 30, 40, 41, 42, 0})), u"47 -   10  20  30  40  41  42   "_qs);
-        QVERIFY(Je_Radek_Tahu(Radek_Tahu(1, Tah{})));
+        QCOMPARE(Radek_Tahu_Seznamu(5, T({3, 12, 0, 45, 7, 49, 8})), u"5   -     3  12     45    7  49 - 8"_qs);
+        QCOMPARE(Radek_Tahu_Seznamu(47, T({10, 20, 30, 40, 41, 42, 0})), u"47 -   10  20  30  40  41  42   "_qs);
+        QVERIFY(Je_Radek_Tahu(Radek_Tahu_Seznamu(1, Tah{})));
         QVERIFY(!Je_Radek_Tahu(Radek_Roku(2026)));
 
-        const QStringList radky{Radek_Roku(2024), Radek_Tahu(1, T({1})), Radek_Tahu(2, T({2})), Radek_Roku(2025),
-                                Radek_Tahu(1, T({3}))};
+        const QStringList radky{Radek_Roku(2024), Radek_Tahu_Seznamu(1, T({1})), Radek_Tahu_Seznamu(2, T({2})),
+                                Radek_Roku(2025), Radek_Tahu_Seznamu(1, T({3}))};
         QCOMPARE(Poradi_Tahu(radky, 4), 3);
         QCOMPARE(Poradi_Tahu(radky, 3), 0);
         QCOMPARE(Rok_Radku(radky, 2), 2024);
@@ -62,15 +62,15 @@ private slots:
         QCOMPARE(a.Pocet_Tahy_2, 0);
 
         const Seznam_Tahu s = Vypis_Cisla_Tahu(a, Prvni_Tah);
-        QCOMPARE(s.Radky, (QStringList{u" 2025"_qs, Radek_Tahu(1, T({1, 2, 3, 4, 5, 6, 7})), u" 2024"_qs,
-                                      Radek_Tahu(3, T({11, 12, 13, 14, 15, 16, 0}))}));
+        QCOMPARE(s.Radky, (QStringList{u" 2025"_qs, Radek_Tahu_Seznamu(1, T({1, 2, 3, 4, 5, 6, 7})), u" 2024"_qs,
+                                       Radek_Tahu_Seznamu(3, T({11, 12, 13, 14, 15, 16, 0}))}));
         QCOMPARE(s.Pocet_Tahu, 2);
         QCOMPARE(Najdi_Radek_Tahu(a, Prvni_Tah, 2024, 3), 3);
         QCOMPARE(Najdi_Radek_Tahu(a, Druhy_Tah, 2024, 3), -1);
 
         // The second series of the same week is its own draw.
         QVERIFY(Pridej_Tah(a, Druhy_Tah, 2024, 3, T({1, 1})).Zmeneno);
-        QCOMPARE(Vypis_Cisla_Tahu(a, Druhy_Tah).Radky, (QStringList{u" 2024"_qs, Radek_Tahu(3, T({1, 1}))}));
+        QCOMPARE(Vypis_Cisla_Tahu(a, Druhy_Tah).Radky, (QStringList{u" 2024"_qs, Radek_Tahu_Seznamu(3, T({1, 1}))}));
         QCOMPARE(Najdi_Radek_Tahu(a, Druhy_Tah, 2024, 3), 1);
     }
 

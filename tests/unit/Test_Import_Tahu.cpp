@@ -157,6 +157,12 @@ private slots:
         QCOMPARE(streda.Roky[1].Tyden[2].Tah1, T({47, 10, 14, 45, 31, 33, 40}));
         // A file without its header still has its first draw.
         QCOMPARE(Importuj_Csv(csv.mid(csv.indexOf('\n') + 1), Den::Nedele).Roky, nedele.Roky);
+        // The date of every line counts; an empty one leaves its draw without a date.
+        QCOMPARE(nedele.Dny.Data.size(), std::size_t(3));
+        QCOMPARE(Importuj_Csv("x;2026;02;3;1;2;3;4;5;6;7;;;;;;;\n", Den::Nedele).Stav.Zprava,
+                 u"Chyba na řádku 1 souboru s tahy: datum \"x\" není ve tvaru den. měsíc. rok. Import byl ukončen, "
+                 u"archiv tahů zůstal beze změny."_qs);
+        QVERIFY(Importuj_Csv(";2026;02;3;1;2;3;4;5;6;7;;;;;;;\n", Den::Streda).Dny.Data.empty());
     }
 
     void skutecna_historie() {
@@ -170,6 +176,14 @@ private slots:
             std::tie(a.Pole_Tahu, a.Pocet_Let) = std::pair(v.Roky, v.Pocet_Let());
             QCOMPARE(Spocitej_Tahy(a), std::make_pair(tahu, tahu));
         }
+        // Fridays: a few one-off draws from 1994 on, then every week since 2020.
+        Archiv_Tahu patek;
+        const auto v = Importuj_Csv(Historie, Den::Patek);
+        std::tie(patek.Pole_Tahu, patek.Pocet_Let) = std::pair(v.Roky, v.Pocet_Let());
+        QCOMPARE(Spocitej_Tahy(patek), std::make_pair(418, 418));
+        QCOMPARE(std::pair(int(v.Roky[1].Rok), int(v.Roky[v.Roky.size() - 7].Rok)), std::pair(1994, 2020));
+        QCOMPARE(v.Roky[1].Tyden[52].Tah1, T({47, 11, 4, 18, 12, 27, 29}));
+        QCOMPARE(v.Roky.back().Tyden[2].Tah2, T({20, 16, 27, 13, 30, 18, 44}));
     }
 
     void csv_a_dbf_davaji_totez() {
@@ -226,6 +240,14 @@ private slots:
         Nastav_Den_Archivu(a, Den::Streda);
         QVERIFY(Importuj_Tahy(a, dir.path(), u"sportka.csv"_qs, u"1"_qs, 0).Ok());
         QCOMPARE(std::pair(int(a.Pole_Tahu[1].Rok), a.Pocet_Let), std::pair(1995, 32));
+        // Its dates stand beside the archive, until a dBase import, which has none, takes them away.
+        const QString dny = dir.filePath(u"SpS_tahy.dny"_qs);
+        QCOMPARE(Cti_Dny(Obsah_Souboru(dny)), a.Dny);
+        QCOMPARE(a.Dny.Data.size(), std::size_t(2 * 1606));
+        Zapis_Souboru(dir.filePath(u"sportka-streda.dbf"_qs), dbf);
+        QVERIFY(Importuj_Tahy(a, dir.path(), u"sportka-streda.dbf"_qs, u"1"_qs, 0).Ok());
+        QVERIFY(!QFile::exists(dny) && a.Dny.Data.empty());
+        QVERIFY(Importuj_Tahy(a, dir.path(), u"sportka.csv"_qs, u"1"_qs, 0).Ok());
         Zapis_Souboru(dir.filePath(u"sportka.csv"_qs), Hlavicka_Csv);
         QCOMPARE(Importuj_Tahy(a, dir.path(), u"sportka.csv"_qs, u"1"_qs, 0).Zprava,
                  u"Není soubor s tahy \"sportka.csv\" nebo je v něm chyba."_qs);

@@ -177,6 +177,26 @@ private slots:
         QCOMPARE(seznam.Radky.size(), 1 + 1606);
         QCOMPARE(seznam.Radky.last(), u"1606 47 10 14 45 31 33 40"_qs); // 7 January 2026
 
+        // The Friday draw with its dates beside it; without them a draw has the Friday of its ISO week,
+        // which for the operator's week 52 of 1994 is a week later.
+        const QString patek = dir.filePath(u"SpP_tahy.sez"_qs);
+        const QStringList datum{u"archive"_qs, patek, u"--list"_qs, u"2"_qs, u"--datum"_qs};
+        QCOMPARE(Spust({u"import"_qs, u"--csv"_qs, QStringLiteral(TOMBI_HISTORIE), u"--den"_qs, u"patek"_qs, u"--out"_qs,
+                        patek})
+                     .Radky,
+                 QStringList{u"let 22 tahy1 418 tahy2 418"_qs});
+        const Beh s_daty = Spust(datum);
+        QCOMPARE(s_daty.Radky.size(), 1 + 418);
+        QCOMPARE(s_daty.Radky[1], u"1 14 40 48 21 5 36 34 23.12.1994"_qs);
+        QCOMPARE(s_daty.Radky.last(), u"418 20 16 27 13 30 18 44 09.01.2026"_qs);
+        QVERIFY(QFile::remove(dir.filePath(u"SpP_tahy.dny"_qs)));
+        QCOMPARE(Spust(datum).Radky[1], u"1 14 40 48 21 5 36 34 30.12.1994"_qs);
+        Zapis_Souboru(dir.filePath(u"SpP_tahy.dny"_qs), "1994 52 2 23.12.1994\nspatne\n");
+        const Beh vadny = Spust(datum);
+        QCOMPARE(std::pair(vadny.Kod, vadny.Radky[1]), std::pair(0, u"1 14 40 48 21 5 36 34 23.12.1994"_qs));
+        QVERIFY(vadny.Chyby.contains(u"\"SpP_tahy.dny\" má vadné řádky"_qs) && vadny.Chyby.contains(u"řádek 2: "_qs));
+        QCOMPARE(Spust({u"archive"_qs, patek, u"--datum"_qs}).Kod, 2);
+
         // Two tickets with one filled column each and a list link: one line per filled column.
         const auto z = std::make_unique<Zaznam_Tipu>();
         z->Tikety[1].Cisla[10] = Tip{{1, 2, 3, 4, 5, 6}};
@@ -189,6 +209,33 @@ private slots:
         QCOMPARE(Spust({u"tips"_qs, dir.filePath(u"a.tip"_qs)}).Radky,
                  (QStringList{u"tikety 2 tipy 2 seznam Parta.szn"_qs, u"1 0 10 1 2 3 4 5 6"_qs,
                               u"2 7 1 44 45 46 47 48 49"_qs}));
+    }
+
+    void Uprava_Archivu() {
+        QTemporaryDir dir;
+        const QString sez = dir.filePath(u"SpP_tahy.sez"_qs);
+        const auto archiv = [&](QStringList dalsi) { return Spust(QStringList{u"archive"_qs, sez} + dalsi); };
+        // The first draw creates the archive; a filled week is refused and the file stays.
+        QCOMPARE(archiv({u"--pridej"_qs, u"2026"_qs, u"48"_qs, u"1"_qs, u"1 2 3 4 5 6 -"_qs}).Radky,
+                 QStringList{u"let 1 tahy1 1 tahy2 0"_qs});
+        const QByteArray prvni = Obsah_Souboru(sez);
+        const Beh obsazeno = archiv({u"--pridej"_qs, u"2026"_qs, u"48"_qs, u"1"_qs, u"9"_qs});
+        QCOMPARE(std::pair(obsazeno.Kod, obsazeno.Chyby), std::pair(1, u"Týden a rok již obsazen, lze pouze OPRAVIT !\n"_qs));
+        QCOMPARE(Obsah_Souboru(sez), prvni);
+
+        // A repair keeps the boxes left empty and leaves the old file as the backup.
+        QCOMPARE(archiv({u"--oprav"_qs, u"2026"_qs, u"48"_qs, u"1"_qs, u"0 0 0 0 0 40 41"_qs}).Kod, 0);
+        QCOMPARE(Obsah_Souboru(dir.filePath(u"SpP_tahy.zal"_qs)), prvni);
+        QCOMPARE(archiv({u"--list"_qs, u"1"_qs}).Radky.last(), u"1 1 2 3 4 5 40 41"_qs);
+        QCOMPARE(archiv({u"--oprav"_qs, u"2026"_qs, u"48"_qs, u"1"_qs, u"7 7"_qs}).Chyby,
+                 u"Pozor, zadána stejná čísla !\n"_qs);
+        QCOMPARE(archiv({u"--oprav"_qs, u"2026"_qs, u"48"_qs, u"2"_qs, u"7"_qs}).Kod, 1);
+
+        QCOMPARE(archiv({u"--smaz"_qs, u"2025"_qs, u"48"_qs, u"1"_qs}).Chyby,
+                 u"Není co SMAZAT, týden či rok neexistuje.\n"_qs);
+        QCOMPARE(archiv({u"--smaz"_qs, u"2026"_qs, u"48"_qs, u"1"_qs}).Radky, QStringList{u"let 1 tahy1 0 tahy2 0"_qs});
+        QCOMPARE(archiv({u"--pridej"_qs, u"2026"_qs, u"54"_qs, u"1"_qs, u"1"_qs}).Kod, 2);
+        QCOMPARE(archiv({u"--pridej"_qs, u"2026"_qs, u"1"_qs, u"1"_qs, u"1 50"_qs}).Kod, 2);
     }
 
     void Jmeno_Mimo_Utf8_A_Plny_Disk() {

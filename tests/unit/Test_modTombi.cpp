@@ -4,6 +4,7 @@
 #include "Hodiny_Testu.h"
 #include "app/modTombi.h"
 
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <memory>
@@ -20,13 +21,13 @@ private slots:
         QTest::addColumn<QString>("dalsi");
         QTest::addColumn<int>("archiv");
         // 22.11.2026 is a Sunday.
-        const auto N = int(Den::Nedele), S = int(Den::Streda);
+        const auto N = int(Den::Nedele), S = int(Den::Streda), P = int(Den::Patek);
         QTest::newRow("neděle") << QDate(2026, 11, 22) << 1 << u"22.11.2026"_qs << N;
         QTest::newRow("pondělí") << QDate(2026, 11, 23) << 2 << u"25.11.2026"_qs << S;
         QTest::newRow("úterý") << QDate(2026, 11, 24) << 3 << u"25.11.2026"_qs << S;
         QTest::newRow("středa") << QDate(2026, 11, 25) << 4 << QString() << S;
-        QTest::newRow("čtvrtek přes rok") << QDate(2026, 12, 31) << 5 << u"3.1.2027"_qs << N;
-        QTest::newRow("pátek") << QDate(2026, 11, 27) << 6 << u"29.11.2026"_qs << N;
+        QTest::newRow("čtvrtek přes rok") << QDate(2026, 12, 31) << 5 << u"1.1.2027"_qs << P;
+        QTest::newRow("pátek") << QDate(2026, 11, 27) << 6 << u"27.11.2026"_qs << P;
         QTest::newRow("sobota") << QDate(2026, 11, 28) << 7 << u"29.11.2026"_qs << N;
     }
     void dny_v_tydnu() {
@@ -135,6 +136,29 @@ private slots:
 
         QVERIFY(Prepni_Den(*relace, Den::Nedele).Ok());
         QCOMPARE(relace->Archiv.Pocet_Tahy_2, 1);
+    }
+
+    void ceny_dnu() {
+        QTemporaryDir adresar;
+        QSettings registr(adresar.filePath(u"registr.ini"_qs), QSettings::IniFormat);
+        auto relace = std::make_unique<Relace>();
+        relace->Nastaveni.Ceny_Streda[9] = Vb::Mena::Z_Korun(40);
+        relace->Nastaveni.Ceny_Nedele[0] = Vb::Mena::Z_Korun(9000000);
+        QCOMPARE(Ceny_Dne_Tahu(*relace, Den::Streda)[9].Korun(), 40.0);
+        QCOMPARE(Ceny_Dne_Tahu(*relace, Den::Nedele)[0].Korun(), 9000000.0);
+        // Friday's table is the settings store's: none there, or no store, is all zero.
+        QCOMPARE(Ceny_Dne_Tahu(*relace, Den::Patek), (std::array<Vb::Mena, 10>{}));
+        relace->Registr = &registr;
+        QCOMPARE(Ceny_Dne_Tahu(*relace, Den::Patek), (std::array<Vb::Mena, 10>{}));
+        std::array<Vb::Mena, 10> patek{};
+        patek[0] = Vb::Mena::Z_Korun(12500000.5);
+        patek[9] = Vb::Mena::Z_Korun(50);
+        Uloz_Ceny_Patku(*relace, patek);
+        registr.sync();
+        QSettings znovu(adresar.filePath(u"registr.ini"_qs), QSettings::IniFormat);
+        relace->Registr = &znovu;
+        QCOMPARE(Ceny_Dne_Tahu(*relace, Den::Patek), patek);
+        QCOMPARE(Ceny_Dne_Tahu(*relace, Den::Nedele)[0].Korun(), 9000000.0);
     }
 
     void cekani() {

@@ -13,6 +13,10 @@ QByteArray Archiv(Den den) {
     return Zapis_Roky(import.Roky, import.Pocet_Let());
 }
 
+QByteArray Dny_Archivu(Den den) {
+    return Zapis_Dny(Importuj_Csv(Obsah_Souboru(QStringLiteral(TOMBI_HISTORIE)), den).Dny);
+}
+
 QByteArray Soubor_Tipu(int pocet) {
     Zaznam_Tipu zaznam;
     for (int i = 0; i < pocet; ++i) {
@@ -33,8 +37,10 @@ Prostredi::Prostredi(const QDate& dnes) : Hodiny(QDateTime(dnes, QTime(18, 0))) 
     Data->Dialog = &Dialogy;
     Data->Registr = Registr.get();
     Data->Cesta_Programu = Slozka.path();
-    Zapis_Souboru(Cesta(u"SpS_tahy.sez"_qs), Archiv(Den::Streda));
-    Zapis_Souboru(Cesta(u"SpN_tahy.sez"_qs), Archiv(Den::Nedele));
+    for (const Den den : Dny_Losovani) {
+        Zapis_Souboru(Cesta(Soubor_Tahu_Dne(den)), Archiv(den));
+        Zapis_Souboru(Cesta(Soubor_Dnu(Soubor_Tahu_Dne(den))), Dny_Archivu(den));
+    }
 }
 
 QString Prostredi::Cesta(const QString& jmeno) const {

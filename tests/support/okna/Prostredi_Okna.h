@@ -1,6 +1,7 @@
 #pragma once
-// The main window over a program directory of its own, for tests and pictures: both archives of
-// the real history, the session with a test clock, preset dialogs and an INI store for Pws.
+// The main window over a program directory of its own, for tests and pictures: the archives of
+// the three draw days from the real history with their dates, the session with a test clock,
+// preset dialogs and an INI store for Pws.
 
 #include "Dialogy_Testu.h"
 #include "Hodiny_Testu.h"
@@ -16,6 +17,8 @@
 
 // The image of the archive of a draw day, imported from the operator's history.
 QByteArray Archiv(Den den);
+// The image of the .dny file of that archive, from the same import.
+QByteArray Dny_Archivu(Den den);
 // A current-format tip file of `pocet` tips.
 QByteArray Soubor_Tipu(int pocet);
 
