@@ -225,7 +225,7 @@ bool frmMDITombi::Je_Nehotovy(const QAction* prikaz) const {
     // out of this list once its window connects it.
     const QAction* const nehotove[] = {
         mnuPripojSouborTipu, mnuSetriditSouborTipu,
-        mnuExportTipu,       mnuImportTipu,         mnuTiskTiketu,  mnuRozsirSouborTahy,
+        mnuExportTipu,       mnuImportTipu,         mnuTiskTiketu,
         mnuDownload,           mnuOtevriSeznam,
         mnuNovySeznam,       mnuVypisSeznamu,       mnuUvolnit,     mnuKonfigurace,     mnuWebTombiNovaVer,
     };
@@ -242,8 +242,9 @@ void frmMDITombi::Nastav_Zamek(const QString& jmeno, Zamek zamek) {
 }
 
 void frmMDITombi::Obnov_Povoleni() {
-    // Commands that work on the archive of the day, and so are off while the day has none.
-    const QAction* const archivni[] = {mnuVypisTahu, mnuRozsirSouborTahy, mnuAnalyza};
+    // Commands that work on the archive of the day, and so are off while the day has none. The
+    // draw editor (mnuRozsirSouborTahy) stays on: the first draw typed in makes the archive.
+    const QAction* const archivni[] = {mnuVypisTahu, mnuAnalyza};
     menuBar()->setEnabled(!Sluzby_Okna->Pracuje());
     for (QMenu* menu : {mnuVolbaTahu, mnuTipy, mnuTahy, mnuSeznamy, mnuProgram}) {
         for (QAction* prikaz : menu->actions()) {

@@ -676,4 +676,14 @@ void frmVypisTahu::Pripoj_Prikazy(frmMDITombi& ram) {
             sezeni.Tahy_Pro_Analyzu = false;
         Otevri(ram);
     });
+    // For entry: also where the day has no archive yet, as the first draw typed in makes it.
+    ram.Obsluz(ram.mnuRozsirSouborTahy, [&ram] {
+        Relace& sezeni = ram.Sezeni();
+        if (!ram.Zavri_Okno<frmAnalyzaTahu>())
+            return;
+        sezeni.Sluzby->Nastav_Status(QString(), QString());
+        sezeni.Tahy_Pro_Analyzu = false;
+        frmVypisTahu* okno = Otevri(ram);
+        okno->txtRok->setFocus();
+    });
 }

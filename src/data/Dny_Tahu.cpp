@@ -8,8 +8,39 @@
 
 namespace {
 
-// A whole number of one to `cislic` digits and nothing else.
-std::optional<int> Cislo(QByteArrayView text, int cislic) {
+// Why a line is no date of a draw, or nothing.
+std::optional<QString> Vada_Radku(const QList<QByteArrayView>& pole, int& rok, int& tyden, int& tah, QDate& datum) {
+    if (pole.size() != 4)
+        return u"má %1 údajů místo 4"_qs.arg(pole.size());
+    const auto r = Cislo_Z_Cislic(pole[0], 4), t = Cislo_Z_Cislic(pole[1], 2), h = Cislo_Z_Cislic(pole[2], 1);
+    if (!r || *r < 1)
+        return u"rok není číslo 1 až 9999"_qs;
+    if (!t || *t < 1 || *t > 53)
+        return u"týden není číslo 1 až 53"_qs;
+    if (!h || *h < 1 || *h > 2)
+        return u"tah není 1 ani 2"_qs;
+    datum = Datum_Z_Textu(pole[3]);
+    if (!datum.isValid())
+        return u"datum není ve tvaru dd.mm.rrrr"_qs;
+    rok = *r;
+    tyden = *t;
+    tah = *h;
+    return std::nullopt;
+}
+
+} // namespace
+
+QByteArrayView Orez(QByteArrayView text) {
+    qsizetype a = 0, b = text.size();
+    while (a < b && (text[a] == ' ' || text[a] == '\t'))
+        ++a;
+    while (b > a && (text[b - 1] == ' ' || text[b - 1] == '\t'))
+        --b;
+    return text.sliced(a, b - a);
+}
+
+std::optional<int> Cislo_Z_Cislic(QByteArrayView text, int cislic) {
+    text = Orez(text);
     if (text.isEmpty() || text.size() > cislic)
         return std::nullopt;
     int n = 0;
@@ -21,39 +52,16 @@ std::optional<int> Cislo(QByteArrayView text, int cislic) {
     return n;
 }
 
-// "dd.mm.rrrr" (one-digit day and month taken too); invalid for anything else.
-QDate Datum(QByteArrayView text) {
+QDate Datum_Z_Textu(QByteArrayView text) {
     const qsizetype a = text.indexOf('.');
     const qsizetype b = a < 0 ? -1 : text.indexOf('.', a + 1);
     if (b < 0)
         return {};
-    const auto den = Cislo(text.first(a), 2);
-    const auto mesic = Cislo(text.sliced(a + 1, b - a - 1), 2);
-    const auto rok = Cislo(text.sliced(b + 1), 4);
+    const auto den = Cislo_Z_Cislic(text.first(a), 2);
+    const auto mesic = Cislo_Z_Cislic(text.sliced(a + 1, b - a - 1), 2);
+    const auto rok = Cislo_Z_Cislic(text.sliced(b + 1), 4);
     return den && mesic && rok ? QDate(*rok, *mesic, *den) : QDate();
 }
-
-// Why a line is no date of a draw, or nothing.
-std::optional<QString> Vada_Radku(const QList<QByteArrayView>& pole, int& rok, int& tyden, int& tah, QDate& datum) {
-    if (pole.size() != 4)
-        return u"má %1 údajů místo 4"_qs.arg(pole.size());
-    const auto r = Cislo(pole[0], 4), t = Cislo(pole[1], 2), h = Cislo(pole[2], 1);
-    if (!r || *r < 1)
-        return u"rok není číslo 1 až 9999"_qs;
-    if (!t || *t < 1 || *t > 53)
-        return u"týden není číslo 1 až 53"_qs;
-    if (!h || *h < 1 || *h > 2)
-        return u"tah není 1 ani 2"_qs;
-    datum = Datum(pole[3]);
-    if (!datum.isValid())
-        return u"datum není ve tvaru dd.mm.rrrr"_qs;
-    rok = *r;
-    tyden = *t;
-    tah = *h;
-    return std::nullopt;
-}
-
-} // namespace
 
 QString Soubor_Dnu(const QString& soubor_tahu) {
     if (soubor_tahu.endsWith(u".sez"_qs, Qt::CaseInsensitive))

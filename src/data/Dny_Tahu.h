@@ -9,9 +9,11 @@
 #include "app/Vysledek.h"
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QDate>
 #include <QString>
 #include <map>
+#include <optional>
 #include <tuple>
 
 struct Archiv_Tahu;
@@ -25,6 +27,14 @@ struct Dny_Tahu {
     void Pridej(int rok, int tyden, int tah, const QDate& datum) { Data[{rok, tyden, tah}] = datum; }
     friend bool operator==(const Dny_Tahu& a, const Dny_Tahu& b) { return a.Data == b.Data; }
 };
+
+// The text without blanks and tabs at either end.
+QByteArrayView Orez(QByteArrayView text);
+// A whole number of one to `cislic` digits, blanks around it allowed; nothing for any other text.
+std::optional<int> Cislo_Z_Cislic(QByteArrayView text, int cislic);
+// "dd.mm.rrrr" as the .dny and the operator's export write it ("11. 1. 2026" too); invalid for
+// anything else.
+QDate Datum_Z_Textu(QByteArrayView text);
 
 // A .dny file is about 20 bytes a draw; one far above that is no such file.
 inline constexpr qint64 Nejvic_Dnu = 16 * 1024 * 1024;

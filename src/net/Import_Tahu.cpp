@@ -62,27 +62,10 @@ std::optional<Tah> Tah_Dbf(const QByteArray& bajty, qsizetype od) {
 
 // ---- CSV ----
 
-QByteArrayView Orez(QByteArrayView pole) {
-    qsizetype a = 0, b = pole.size();
-    while (a < b && (pole[a] == ' ' || pole[a] == '\t'))
-        ++a;
-    while (b > a && (pole[b - 1] == ' ' || pole[b - 1] == '\t'))
-        --b;
-    return pole.sliced(a, b - a);
-}
 
 // A whole number of at most nine digits and nothing else; nothing for any other text.
 std::optional<int> Cele_Cislo(QByteArrayView pole) {
-    const QByteArrayView text = Orez(pole);
-    if (text.isEmpty() || text.size() > 9)
-        return std::nullopt;
-    int n = 0;
-    for (const char c : text) {
-        if (c < '0' || c > '9')
-            return std::nullopt;
-        n = n * 10 + (c - '0');
-    }
-    return n;
+    return Cislo_Z_Cislic(pole, 9);
 }
 
 // Why the bytes are no CSV text at all, or nothing. A text holds no NUL byte: UTF-16 has one beside
@@ -109,19 +92,9 @@ std::optional<QString> Neni_Text_Csv(const QByteArray& b) {
 // The date of the export, "11. 1. 2026" (blanks optional); an empty cell is no date, which is
 // allowed; nothing for a text that is no date.
 std::optional<QDate> Datum_Csv(QByteArrayView pole) {
-    const QByteArrayView text = Orez(pole);
-    if (text.isEmpty())
+    if (Orez(pole).isEmpty())
         return QDate();
-    const qsizetype a = text.indexOf('.');
-    const qsizetype b = a < 0 ? -1 : text.indexOf('.', a + 1);
-    if (b < 0)
-        return std::nullopt;
-    const auto den = Cele_Cislo(text.first(a));
-    const auto mesic = Cele_Cislo(text.sliced(a + 1, b - a - 1));
-    const auto rok = Cele_Cislo(text.sliced(b + 1));
-    if (!den || !mesic || !rok || *rok > 9999)
-        return std::nullopt;
-    const QDate datum(*rok, *mesic, *den);
+    const QDate datum = Datum_Z_Textu(pole);
     return datum.isValid() ? std::optional(datum) : std::nullopt;
 }
 

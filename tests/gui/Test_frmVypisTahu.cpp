@@ -209,6 +209,10 @@ private slots:
         QVERIFY(okno.Bez_Tahu());
         QCOMPARE(tahy->List1Tah->count(), 0);
         QVERIFY(!prostredi.Prikaz(u"mnuAnalyza"_qs)->isEnabled());
+        QVERIFY(okno.Zavri_Okno<frmVypisTahu>());
+        prostredi.Prikaz(u"mnuRozsirSouborTahy"_qs)->trigger();
+        tahy = okno.Najdi_Okno<frmVypisTahu>();
+        QVERIFY(tahy != nullptr);
         tahy->cboTah[0]->click();
         tahy->txtRok->setText(u"2026"_qs);
         tahy->txtTyden->setText(u"47"_qs);
