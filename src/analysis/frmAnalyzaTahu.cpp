@@ -619,6 +619,9 @@ void frmAnalyzaTahu::Pripoj_Prikazy(frmMDITombi& ram) {
                                   u"\"  v aktuálním adresáři."_qs);
             return nullptr;
         }
+        // The windows that must not stand beside the analysis go first; an open analysis stays.
+        if (ram.Najdi_Okno<frmAnalyzaTahu>() == nullptr)
+            ram.Zavri_Pro_Analyzu();
         auto* okno = ram.Otevri_Okno<frmAnalyzaTahu>(ram);
         frmVypisTahu::Otevri_Pro_Analyzu(ram, okno);
         if (sezeni.Nastaveni.Zapis_Analyzy != 0) {

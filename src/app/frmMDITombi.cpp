@@ -24,6 +24,7 @@
 #include "analysis/frmVypisAnalyz.h"
 #include "generator/frmGeneruj.h"
 #include "tips/frmVypisTipu.h"
+#include "tips/frmVypisTipuVsech.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -493,6 +494,8 @@ void frmMDITombi::Zavri_Pro_Analyzu() {
     // it is built.
     Zavri_Okno<frmVypisTipu>();
     Zavri_Okno<frmVypisTahu>();
+    Zavri_Okno<frmGeneruj>();
+    Zavri_Okno<frmVypisTipuVsech>();
     Sluzby_Okna->Zavri_Oznameni();
     Zavri_Okno<frmOProgramu>();
     Pas_Stavu->txtRozpisAktivni->clear();

@@ -282,6 +282,8 @@ void frmVypisTipu::cmdOK_Click(int index) {
         const std::optional<Vysledek_Vyhodnoceni> vysledek = Vyhodnoceni->Vyhodnot();
         if (!vysledek)
             return;
+        if (Vyhodnoceni->Hledano_V_Tazich())
+            Ram.Zavri_Okno<frmVypisTahu>();
         Vyska(Vyska_Vyhodnoceni);
         QCoreApplication::processEvents();
         Vyhry->Vypis_Vyher(*vysledek, Vyhodnoceni->Typ() == 1);

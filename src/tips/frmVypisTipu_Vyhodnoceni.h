@@ -35,6 +35,8 @@ public:
     // The evaluation of cmdOK(0) after the window's common start; the counts and wins are in the
     // result, none when nothing was evaluated (no tips, too few numbers: its message shown).
     std::optional<Vysledek_Vyhodnoceni> Vyhodnot();
+    // The drawn numbers were looked for in the archive: the draw list has had its say then.
+    bool Hledano_V_Tazich() const { return Typ_Tazena_V_Tazich; }
     // Zapis_Do_Tahu: a Ctrl+click on the picture fills the next box.
     void Zapis_Do_Tahu(int cislo);
     // Obarvi_Tahy for each number of a tip chosen in the list (the boxes show how it stands to the
