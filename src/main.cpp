@@ -1,7 +1,7 @@
 // Tombi: the desktop program. One instance a user: a second start hands over to the first, which
 // comes to the front. The frame and its windows live in tombi_gui.
 #include "app/Cestina.h"
-#include "app/Hodiny.h"
+#include "core/Hodiny.h"
 #include "app/Relace.h"
 #include "app/frmCDlg.h"
 #include "app/frmKresleni.h"

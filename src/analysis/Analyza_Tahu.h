@@ -4,7 +4,7 @@
 // as the analysis window shows them, and the numbers of its chart where a chart fits. The window,
 // tombi-cli and the automatic analysis put the title and the texts together.
 
-#include "app/Prubeh.h"
+#include "core/Prubeh.h"
 #include "data/Archiv_Tahu.h"
 
 #include <QString>

@@ -7,7 +7,7 @@
 
 #include "analysis/Analyza_Tahu.h"
 
-#include "app/Vb.h"
+#include "core/Vb.h"
 
 #include <algorithm>
 #include <cmath>

@@ -8,8 +8,8 @@
 
 #include "analysis/Analyza_Tahu.h"
 
-#include "app/Vb.h"
-#include "app/pTikety.h"
+#include "core/Vb.h"
+#include "core/pTikety.h"
 
 #include <algorithm>
 #include <cmath>

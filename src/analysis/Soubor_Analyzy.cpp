@@ -1,6 +1,6 @@
 #include "analysis/Soubor_Analyzy.h"
 
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "data/Nastaveni.h"
 #include "data/Soubory.h"
 

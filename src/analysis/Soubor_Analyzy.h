@@ -3,7 +3,7 @@
 // sections with a head of asterisks and the time. Every line is written as a quoted string; the
 // cleaning after each run turns the quotes into blanks. Code page 1250, CR LF.
 
-#include "app/Vysledek.h"
+#include "core/Vysledek.h"
 
 #include <QDateTime>
 #include <QString>

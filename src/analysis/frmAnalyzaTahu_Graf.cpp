@@ -1,6 +1,6 @@
 #include "analysis/frmAnalyzaTahu_Graf.h"
 
-#include "app/Dialogy.h"
+#include "core/Dialogy.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
 #include "app/frmOvladani.h"

@@ -1,9 +1,9 @@
 #include "app/Otevri_Dialog.h"
 
-#include "app/Dialogy.h"
+#include "core/Dialogy.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "app/Vb.h"
+#include "core/Vb.h"
 
 #include <QDir>
 

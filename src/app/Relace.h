@@ -5,8 +5,8 @@
 // session.
 
 #include "analysis/Analyza_Tahu.h"
-#include "app/Random.h"
-#include "app/pTikety.h"
+#include "core/Random.h"
+#include "core/pTikety.h"
 #include "data/Archiv_Tahu.h"
 #include "data/Nastaveni.h"
 #include "data/Soubor_Tipu.h"

@@ -3,7 +3,7 @@
 // the status band and the busy state with its progress. Windows reach it through the session
 // (Relace::Sluzby), so they need not know the frame; tombi-cli and engine tests have none.
 
-#include "app/Prubeh.h"
+#include "core/Prubeh.h"
 
 #include <QString>
 

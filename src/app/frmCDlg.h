@@ -2,7 +2,7 @@
 // The platform's dialogs behind the Dialogy seam: message boxes, questions, the file, font and
 // printer dialogs, all owned by one window.
 
-#include "app/Dialogy.h"
+#include "core/Dialogy.h"
 
 #include <QPointer>
 #include <QPrinter>

@@ -1,6 +1,6 @@
 #include "app/frmKresleni.h"
 
-#include "app/pTikety.h"
+#include "core/pTikety.h"
 
 #include <QIcon>
 #include <QPaintDevice>

@@ -2,8 +2,8 @@
 
 #include "analysis/frmVypisAnalyz.h"
 #include "app/Relace.h"
-#include "app/Tabulka_Textu.h"
-#include "app/Vb.h"
+#include "core/Tabulka_Textu.h"
+#include "core/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmMDITombi.h"
 #include "app/modTombi.h"

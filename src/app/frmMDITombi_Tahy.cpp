@@ -1,7 +1,7 @@
 #include "app/frmMDITombi_Tahy.h"
 
 #include "analysis/frmAnalyzaTahu.h"
-#include "app/Dialogy.h"
+#include "core/Dialogy.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
 #include "app/frmMDITombi.h"

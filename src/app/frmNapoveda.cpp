@@ -1,6 +1,6 @@
 #include "app/frmNapoveda.h"
 
-#include "app/Tabulka_Textu.h"
+#include "core/Tabulka_Textu.h"
 #include "app/frmMDITombi.h"
 #include "app/modTombi.h"
 

@@ -1,7 +1,7 @@
 #include "app/frmOProgramu.h"
 
 #include "app/Relace.h"
-#include "app/Tabulka_Textu.h"
+#include "core/Tabulka_Textu.h"
 #include "app/frmMDITombi.h"
 
 #include <QFrame>

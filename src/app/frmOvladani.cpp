@@ -1,6 +1,6 @@
 #include "app/frmOvladani.h"
 
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "app/modTombi.h"
 
 #include <QEvent>

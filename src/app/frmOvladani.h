@@ -3,7 +3,7 @@
 // entry, the even/odd labels, the help context. The key filter Filtr_Klavesy and the table of help
 // keys need no window and live in modTombi.
 
-#include "app/Tabulka_Textu.h"
+#include "core/Tabulka_Textu.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -2,9 +2,9 @@
 
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "app/Tabulka_Textu.h"
+#include "core/Tabulka_Textu.h"
 #include "app/frmMDITombi.h"
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "data/Chyby_A_Prehled.h"
 #include "data/Soubory.h"
 

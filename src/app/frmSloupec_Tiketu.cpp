@@ -1,7 +1,7 @@
 #include "app/frmSloupec_Tiketu.h"
 
 #include "app/frmKresleni.h"
-#include "app/pTikety.h"
+#include "core/pTikety.h"
 #include "data/Nastaveni.h"
 
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 #include "app/modTombi.h"
 
-#include "app/Hodiny.h"
-#include "app/Vb.h"
+#include "core/Hodiny.h"
+#include "core/Vb.h"
 
 #include <QSettings>
 #include <QStringList>
@@ -26,23 +26,6 @@ const QString& Znaky_1250() {
 }
 
 } // namespace
-
-bool Je_Sude(int x) {
-    return x % 2 == 0;
-}
-
-void Vymen(uint8_t& a, uint8_t& b) {
-    std::swap(a, b);
-}
-
-void Setrid_Tip(Tip& tip, int od, int do_) {
-    od = std::max(od, 1);
-    do_ = std::min(do_, Tip::Pocet());
-    for (int i = od; i < do_; ++i)
-        for (int j = i + 1; j <= do_; ++j)
-            if (tip[i] > tip[j])
-                Vymen(tip[i], tip[j]);
-}
 
 void Spocitej_Suda_Licha(Relace& relace, const QString& text) {
     relace.Pocet_Sudych = 0;
@@ -170,18 +153,6 @@ void Uloz_Ceny_Patku(Relace& relace, const std::array<Vb::Mena, 10>& ceny) {
     for (const Vb::Mena& cena : ceny)
         texty << cena.Text();
     relace.Registr->setValue(Klic_Cen_Patku, texty);
-}
-
-QString Tvar_Poctu(int64_t pocet, const QString& jeden, const QString& dva_az_ctyri, const QString& pet) {
-    if (pocet == 1)
-        return jeden;
-    return pocet >= 2 && pocet <= 4 ? dva_az_ctyri : pet;
-}
-
-QString Text_Poctu_Tipu(int pocet) {
-    if (pocet <= 0)
-        return {};
-    return QString::number(pocet) + u' ' + Tvar_Poctu(pocet, u"tip"_qs, u"tipy"_qs, u"tipů"_qs);
 }
 
 void Cekej(const Hodiny& hodiny, double sekundy, const std::function<void()>& pumpa) {

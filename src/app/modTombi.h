@@ -4,8 +4,9 @@
 // date, the switch of draw day over the archive, the wait with the event pump, and the key filter.
 
 #include "app/Relace.h"
-#include "app/Vb.h"
-#include "app/Vysledek.h"
+#include "core/modTombi_Zaklad.h"
+#include "core/Vb.h"
+#include "core/Vysledek.h"
 #include "data/Archiv_Tahu.h"
 
 #include <QDate>
@@ -15,10 +16,6 @@
 
 namespace modTombi {
 
-bool Je_Sude(int x);
-void Vymen(uint8_t& a, uint8_t& b);
-// Exchange sort ascending over positions od..do_ of the tip.
-void Setrid_Tip(Tip& tip, int od, int do_);
 // Counts the even and odd numbers of a blank-separated text into Pocet_Sudych and Pocet_Lichych,
 // skipping its first token; an empty text clears both.
 void Spocitej_Suda_Licha(Relace& relace, const QString& text);
@@ -59,12 +56,6 @@ Vysledek Prepni_Den(Relace& relace, Den den);
 std::array<Vb::Mena, 10> Ceny_Dne_Tahu(const Relace& relace, Den den);
 void Uloz_Ceny_Patku(Relace& relace, const std::array<Vb::Mena, 10>& ceny);
 
-// The Czech form of a noun after a count: `jeden` for 1, `dva_az_ctyri` for 2 to 4, `pet` for any
-// other count, 0 and negative ones included ("1 sloupec", "3 sloupce", "5 sloupců", "0 sloupců").
-QString Tvar_Poctu(int64_t pocet, const QString& jeden, const QString& dva_az_ctyri, const QString& pet);
-
-// The label of lblSoubor_Tipu: "" for 0, "1 tip", "3 tipy", "5 tipů".
-QString Text_Poctu_Tipu(int pocet);
 
 // Waits `sekundy` by the clock's timer, letting events run through `pumpa` (if any) on every round.
 // Over midnight the timer falls back; the wait then ends at once.

@@ -1,6 +1,6 @@
 #include "archive/Editor_Tahu.h"
 
-#include "app/Vb.h"
+#include "core/Vb.h"
 
 #include <algorithm>
 

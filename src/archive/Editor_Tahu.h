@@ -4,8 +4,8 @@
 // frmVypisTahu and `tombi-cli archive` both work through it; writing the changed archive to disk
 // is the caller's (Zaloha_Soubor_Tahu).
 
-#include "app/Prubeh.h"
-#include "app/Vysledek.h"
+#include "core/Prubeh.h"
+#include "core/Vysledek.h"
 #include "data/Archiv_Tahu.h"
 
 #include <QString>

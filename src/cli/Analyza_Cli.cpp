@@ -2,7 +2,7 @@
 // analysis window adds it to its report.
 
 #include "analysis/Analyza_Tahu.h"
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "cli/Cli.h"
 #include "data/Archiv_Tahu.h"
 

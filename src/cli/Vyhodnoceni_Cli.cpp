@@ -1,8 +1,8 @@
 // tombi-cli evaluate: the four evaluations of the tip list's third panel, and the comparison of a
 // tip file with files drawn by chance, printed as counts, the lines of the win list and money.
 
-#include "app/Random.h"
-#include "app/Vb.h"
+#include "core/Random.h"
+#include "core/Vb.h"
 #include "cli/Cli.h"
 #include "data/Archiv_Tahu.h"
 #include "data/Nastaveni.h"

@@ -1,6 +1,6 @@
 #include "data/Archiv_Tahu.h"
 
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "data/Soubory.h"
 
 #include <QFile>

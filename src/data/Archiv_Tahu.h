@@ -3,8 +3,9 @@
 // Sunday), a record of 956 bytes a year, read whole into memory with the dates of its draws, and
 // the two flat lists of first and second draws.
 
-#include "app/Pole_Od_1.h"
-#include "app/Vysledek.h"
+#include "core/Pole_Od_1.h"
+#include "core/Tip.h"
+#include "core/Vysledek.h"
 #include "data/Dny_Tahu.h"
 
 #include <QByteArray>
@@ -14,9 +15,6 @@
 #include <optional>
 #include <utility>
 #include <vector>
-
-// One draw: six drawn numbers and the supplementary number, 0 meaning no number.
-using Tah = Pole_Od_1<uint8_t, 7>;
 
 // A week of the archive, 18 bytes on disk.
 struct Tyden_Zaznam {

@@ -1,7 +1,7 @@
 #include "data/Chyby_A_Prehled.h"
 
-#include "app/Dialogy.h"
-#include "app/Vb.h"
+#include "core/Dialogy.h"
+#include "core/Vb.h"
 #include "data/Soubory.h"
 
 #include <QFile>

@@ -2,7 +2,7 @@
 // Two small text files: ErrorFile.txt, the report of an internal error that the user is asked to
 // send in, and _Prehled.txt, the running overview of which bettors' list went with which tip file.
 
-#include "app/Vysledek.h"
+#include "core/Vysledek.h"
 
 #include <QDateTime>
 #include <QString>

@@ -6,7 +6,7 @@
 // A draw that the file does not know (typed by hand, an archive without the file) gets the day of
 // the archive's weekday in the ISO week `tyden` of `rok`.
 
-#include "app/Vysledek.h"
+#include "core/Vysledek.h"
 
 #include <QByteArray>
 #include <QByteArrayView>

@@ -1,6 +1,6 @@
 #include "data/Nastaveni.h"
 
-#include "app/Random.h"
+#include "core/Random.h"
 #include "data/Soubory.h"
 
 #include <QDir>

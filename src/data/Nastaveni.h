@@ -4,8 +4,8 @@
 // Besides the file, the enciphered password lives in the user's settings as "Pws", so that a
 // lost tombi.cfg does not lose the lock.
 
-#include "app/Vb.h"
-#include "app/Vysledek.h"
+#include "core/Vb.h"
+#include "core/Vysledek.h"
 
 #include <QByteArray>
 #include <QString>

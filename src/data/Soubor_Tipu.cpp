@@ -1,6 +1,6 @@
 #include "data/Soubor_Tipu.h"
 
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "data/Soubory.h"
 
 #include <algorithm>

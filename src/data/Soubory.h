@@ -4,7 +4,7 @@
 // crash never leaves half an archive, tip file or tombi.cfg behind. Every failure is told in
 // Czech, with the reason the system gave.
 
-#include "app/Vysledek.h"
+#include "core/Vysledek.h"
 
 #include <QByteArray>
 #include <QString>

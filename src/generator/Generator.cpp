@@ -1,9 +1,9 @@
 #include "generator/Generator.h"
 
-#include "app/Random.h"
-#include "app/Vb.h"
-#include "app/modTombi.h"
-#include "app/pTikety.h"
+#include "core/Random.h"
+#include "core/Vb.h"
+#include "core/modTombi_Zaklad.h"
+#include "core/pTikety.h"
 #include "generator/modOkruh_Cisel.h"
 
 #include <QDateTime>
@@ -172,7 +172,7 @@ beh:
             // The numbers of this ticket so far; after a restart the cells of the failed attempt count too.
             uint64_t pouzita = 0;
             for (int s = 1; s <= sloupec; ++s)
-                pouzita |= modOkruh_Cisel::Maska_Tipu(t.Cisla[s]);
+                pouzita |= Maska_Tipu(t.Cisla[s]);
             int dekady[5] = {};
             for (int i = pocet_tutovek + 1; i <= 6; ++i)
                 tip[i] = 0;

@@ -3,7 +3,7 @@
 // the tip store. The window (or tombi-cli) fills Zadani_Generatoru from its boxes and binds the
 // callbacks; the run itself touches no widget.
 
-#include "app/Prubeh.h"
+#include "core/Prubeh.h"
 #include "data/Archiv_Tahu.h"
 #include "data/Soubor_Tipu.h"
 

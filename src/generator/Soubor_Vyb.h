@@ -2,8 +2,8 @@
 // Files of selected numbers (.vyb): one record of 105 bytes with the wheel's index, the numbers to
 // use or to leave out, and the tutovky.
 
-#include "app/Pole_Od_1.h"
-#include "app/Vysledek.h"
+#include "core/Pole_Od_1.h"
+#include "core/Vysledek.h"
 #include "generator/Vyber_Cisel.h"
 #include "generator/modRozpisy.h"
 

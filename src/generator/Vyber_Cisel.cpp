@@ -1,7 +1,7 @@
 #include "generator/Vyber_Cisel.h"
 
-#include "app/Random.h"
-#include "app/Vb.h"
+#include "core/Random.h"
+#include "core/Vb.h"
 #include "data/Archiv_Tahu.h"
 
 #include <QStringList>

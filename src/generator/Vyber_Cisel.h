@@ -5,8 +5,8 @@
 // The txtTutovka boxes belong to the window; these functions take their values as an array of
 // three numbers, 0 for an empty box, and write it back where the boxes change.
 
-#include "app/Pole_Od_1.h"
-#include "app/Vysledek.h"
+#include "core/Pole_Od_1.h"
+#include "core/Vysledek.h"
 
 #include <QString>
 #include <array>

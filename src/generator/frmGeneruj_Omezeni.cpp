@@ -2,8 +2,8 @@
 
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "app/Tabulka_Textu.h"
-#include "app/Vb.h"
+#include "core/Tabulka_Textu.h"
+#include "core/Vb.h"
 #include "app/frmOvladani.h"
 #include "generator/Generator.h"
 

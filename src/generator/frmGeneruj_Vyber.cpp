@@ -1,10 +1,10 @@
 #include "generator/frmGeneruj_Vyber.h"
 
-#include "app/Dialogy.h"
+#include "core/Dialogy.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "app/Tabulka_Textu.h"
-#include "app/Vb.h"
+#include "core/Tabulka_Textu.h"
+#include "core/Vb.h"
 #include "app/frmMDITombi.h"
 #include "app/frmOvladani.h"
 #include "app/frmSloupec_Tiketu.h"

@@ -1,6 +1,6 @@
 #include "generator/modOkruh_Cisel.h"
 
-#include "app/pTikety.h"
+#include "core/pTikety.h"
 
 #include <algorithm>
 #include <array>
@@ -35,13 +35,6 @@ const Uhlopricky_Cisel& Uhlopricky() {
 }
 
 } // namespace
-
-uint64_t Maska_Tipu(const Tip& tip, int od) {
-    uint64_t m = 0;
-    for (int i = std::max(od, 1); i <= 6; ++i)
-        m |= uint64_t(1) << (tip[i] & 63);
-    return m & ~uint64_t(1);
-}
 
 bool Omezeni_Rad_Slo_Kriz(const Tip& tip, int pocet_tutovek, double sloupce, double radky, double krize) {
     const Uhlopricky_Cisel& u = Uhlopricky();

@@ -4,7 +4,7 @@
 // returns true to throw the candidate out; Omezeni_Prunik alone returns true to keep it. None of
 // them copies the tip or allocates: they run on every candidate of a run.
 
-#include "app/Pole_Od_1.h"
+#include "core/Pole_Od_1.h"
 #include "data/Archiv_Tahu.h"
 #include "data/Soubor_Tipu.h"
 
@@ -12,9 +12,6 @@
 #include <vector>
 
 namespace modOkruh_Cisel {
-
-// Bit x set for each number x of positions od..6; an empty cell sets nothing.
-uint64_t Maska_Tipu(const Tip& tip, int od = 1);
 
 // Grid rows and both families of diagonals above their limit, or the OR of the five grid-column
 // counts above sloupce. Positions from pocet_tutovek + 1 count.

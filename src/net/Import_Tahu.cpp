@@ -1,7 +1,7 @@
 #include "net/Import_Tahu.h"
 
-#include "app/Vb.h"
-#include "app/modTombi.h"
+#include "core/Vb.h"
+#include "core/modTombi_Zaklad.h"
 #include "data/Soubory.h"
 
 #include <QByteArrayView>

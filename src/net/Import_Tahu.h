@@ -3,8 +3,8 @@
 // operator publishes (sportka-streda.dbf, sportka-nedele.dbf) and its CSV export of both days.
 // The readers work on bytes and touch nothing; Importuj_Tahy puts their result in place.
 
-#include "app/Prubeh.h"
-#include "app/Vysledek.h"
+#include "core/Prubeh.h"
+#include "core/Vysledek.h"
 #include "data/Archiv_Tahu.h"
 
 #include <QByteArray>

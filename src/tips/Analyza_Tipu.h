@@ -8,7 +8,7 @@
 // Every walk goes ticket by ticket, column by column, and ends at the first column whose first
 // number is 0: the tips stand without gaps.
 
-#include "app/Prubeh.h"
+#include "core/Prubeh.h"
 #include "data/Soubor_Tipu.h"
 
 #include <QString>

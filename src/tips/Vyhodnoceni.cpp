@@ -109,19 +109,6 @@ void Radek_Proti_Tahu(const Radek_Tahu& boxy, const Tah& tah, int& h, int& s) {
         ++s;
 }
 
-// Bitmask of a tip whose six numbers are distinct and 1..49; 0 for any other, which the
-// straightforward comparison then takes.
-uint64_t Maska_Tipu(const Tip& tip) {
-    uint64_t maska = 0;
-    for (int k = 1; k <= 6; ++k) {
-        const int t = tip[k];
-        if (t < 1 || t > 49 || (maska >> t & 1U) != 0)
-            return 0;
-        maska |= uint64_t(1) << t;
-    }
-    return maska;
-}
-
 // A tip against one draw, number by number: h, s.
 void Tip_Proti_Tahu(const Tip& tip, const Tah& tah, int& h, int& s) {
     h = 0;
@@ -152,7 +139,7 @@ struct Tipy_Souboru {
             for (int c = 1; c <= Sloupcu_Tiketu; ++c) {
                 if (tiket.Cisla[c][1] == 0)
                     return;
-                Masky.push_back(Maska_Tipu(tiket.Cisla[c]));
+                Masky.push_back(Maska_Cisteho_Tipu(tiket.Cisla[c]));
                 Cisla.push_back(&tiket.Cisla[c]);
                 Cislo_Tiketu.push_back(tiket.Cislo_Tiketu);
                 Sloupec.push_back(int16_t(c));
@@ -160,15 +147,6 @@ struct Tipy_Souboru {
         }
     }
 };
-
-// Bitmask of the six drawn numbers that a clean tip can hit (1..49).
-uint64_t Maska_Tahu(const Tah& tah) {
-    uint64_t maska = 0;
-    for (int p = 1; p <= 6; ++p)
-        if (tah[p] >= 1 && tah[p] <= 49)
-            maska |= uint64_t(1) << tah[p];
-    return maska;
-}
 
 // The hot loop: the places of the tips with at least three numbers in the draw's mask, and of those
 // without a mask. Built twice where the processor may lack the popcount instruction.

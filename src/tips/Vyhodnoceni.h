@@ -5,8 +5,8 @@
 // every tip of the file against the archive (Vyh_Soubor_V_Tazich). No window: the third panel of
 // the tip list and `tombi-cli evaluate` bind to these.
 
-#include "app/Pole_Od_1.h"
-#include "app/Prubeh.h"
+#include "core/Pole_Od_1.h"
+#include "core/Prubeh.h"
 #include "data/Archiv_Tahu.h"
 #include "data/Soubor_Tipu.h"
 

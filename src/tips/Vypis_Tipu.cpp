@@ -1,7 +1,7 @@
 #include "tips/Vypis_Tipu.h"
 
-#include "app/modTombi.h"
-#include "app/pTikety.h"
+#include "core/modTombi_Zaklad.h"
+#include "core/pTikety.h"
 
 #include <algorithm>
 

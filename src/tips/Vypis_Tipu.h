@@ -4,8 +4,8 @@
 // added by hand, a tip deleted with the gap closed, and ticket numbers changed. No window: the
 // tip list binds its controls to these.
 
-#include "app/Prubeh.h"
-#include "app/Vysledek.h"
+#include "core/Prubeh.h"
+#include "core/Vysledek.h"
 #include "data/Soubor_Tipu.h"
 
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "tips/Vypis_Vyher.h"
 
-#include "app/Vb.h"
+#include "core/Vb.h"
 
 #include <limits>
 

@@ -3,7 +3,7 @@
 // the money of the wins (prizes by tier, sums of the draws, stake, profit in per cent, the
 // estimated time of a run against the archive). No window.
 
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "tips/Vyhodnoceni.h"
 
 #include <QString>

@@ -1,8 +1,8 @@
 #include "tips/frmVypisTipuVsech.h"
 
 #include "app/Relace.h"
-#include "app/Tabulka_Textu.h"
-#include "app/Vb.h"
+#include "core/Tabulka_Textu.h"
+#include "core/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmMDITombi.h"
 #include "app/frmOvladani.h"

@@ -2,7 +2,7 @@
 
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "app/frmOvladani.h"
 #include "tips/Analyza_Tipu.h"
 

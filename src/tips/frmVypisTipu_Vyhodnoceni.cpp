@@ -1,9 +1,9 @@
 #include "tips/frmVypisTipu_Vyhodnoceni.h"
 
-#include "app/Dialogy.h"
+#include "core/Dialogy.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmOvladani.h"
 #include "data/Dny_Tahu.h"

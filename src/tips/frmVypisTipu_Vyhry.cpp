@@ -1,10 +1,10 @@
 #include "tips/frmVypisTipu_Vyhry.h"
 
-#include "app/Dialogy.h"
-#include "app/Hodiny.h"
+#include "core/Dialogy.h"
+#include "core/Hodiny.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmOvladani.h"
 #include "app/frmTiskarna.h"

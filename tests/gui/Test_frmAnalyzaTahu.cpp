@@ -5,7 +5,7 @@
 #include "analysis/Soubor_Analyzy.h"
 #include "analysis/frmAnalyzaTahu.h"
 #include "analysis/frmAnalyzaTahu_Graf.h"
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "app/frmMDITombi_Stav.h"
 
 #include <QChartView>

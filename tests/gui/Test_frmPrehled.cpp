@@ -1,6 +1,6 @@
 // The overview window: the file of code page 1250 with CR LF reads as Czech text, again on
 // Obnovit, and a file that cannot be read says so.
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "app/frmPrehled.h"
 #include "data/Soubory.h"
 

@@ -8,7 +8,7 @@
 #include "analysis/frmAnalyzaTahu.h"
 #include "analysis/frmVypisAnalyz.h"
 #include "app/Sluzby_Oken.h"
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "app/frmMDITombi_Sluzby.h"
 #include "app/frmMDITombi_Stav.h"
 #include "app/frmNeniProcedura.h"

@@ -4,7 +4,7 @@
 #include "Prostredi_Okna.h"
 #include "app/frmKresleni.h"
 #include "app/frmSloupec_Tiketu.h"
-#include "app/pTikety.h"
+#include "core/pTikety.h"
 #include "tips/frmVypisTipu.h"
 
 #include <QLabel>

@@ -3,11 +3,11 @@
 // two printouts read back from PDF.
 #include "Bajty.h"
 #include "Prostredi_Okna.h"
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmSloupec_Tiketu.h"
 #include "app/modTombi.h"
-#include "app/pTikety.h"
+#include "core/pTikety.h"
 #include "tips/frmVypisTipu.h"
 #include "tips/frmVypisTipu_Vyhodnoceni.h"
 #include "tips/frmVypisTipu_Vyhry.h"

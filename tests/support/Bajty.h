@@ -3,7 +3,7 @@
 // lies on disk, files read and written whole past the program's own readers and writers, and a disk
 // that fills up halfway through a write.
 
-#include "app/Vysledek.h"
+#include "core/Vysledek.h"
 #include "data/Archiv_Tahu.h"
 
 #include <QByteArray>

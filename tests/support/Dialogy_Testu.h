@@ -3,7 +3,7 @@
 // next questions, file, font and printer dialogs are preset in queues. An empty queue answers as
 // a user who cancels.
 
-#include "app/Dialogy.h"
+#include "core/Dialogy.h"
 
 #include <QQueue>
 #include <QStringList>

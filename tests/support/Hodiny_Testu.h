@@ -2,7 +2,7 @@
 // A clock for tests: a fixed day and time, and a timer that moves on by `Krok` seconds each time
 // it is read, so that a wait ends after a few reads without a real second passing.
 
-#include "app/Hodiny.h"
+#include "core/Hodiny.h"
 
 class Hodiny_Testu final : public Hodiny {
 public:

@@ -1,7 +1,7 @@
 // The draw list's lines and the editor: a new year goes last and is still found, repair cannot
 // remove a number, delete tells a missing year from an empty week, and the file on disk follows.
 #include "Bajty.h"
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "archive/Editor_Tahu.h"
 
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 // Runs of the generator: tickets and columns, tutovky, restarts, the third-prize rule, stops,
 // faults and the run seed.
-#include "app/pTikety.h"
+#include "core/pTikety.h"
 #include "generator/Generator.h"
 #include "generator/modOkruh_Cisel.h"
 

@@ -1,6 +1,6 @@
 // The generator's uniform numbers over a source that tests control, the built-in source, Shuffle,
 // RandomInt and the password cipher.
-#include "app/Random.h"
+#include "core/Random.h"
 
 #include <QTest>
 #include <algorithm>

@@ -1,6 +1,6 @@
 // _Analyza.txt: sections with their heads, the series chosen for writing, the cleaning of quotes.
 #include "analysis/Soubor_Analyzy.h"
-#include "app/Vb.h"
+#include "core/Vb.h"
 #include "data/Nastaveni.h"
 
 #include <QFile>

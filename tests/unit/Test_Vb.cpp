@@ -1,6 +1,6 @@
 // The Basic helpers: Val, Str, rounding and integer division, text order of numbers, money, code
 // page 1250 and the format masks.
-#include "app/Vb.h"
+#include "core/Vb.h"
 
 #include <QTest>
 #include <limits>

@@ -1,7 +1,7 @@
 // Number pools: the test list and wheel input of a run, the shuffle, clicks with tutovky, ranges,
 // random sets, the key over the last draws, and .vyb files byte by byte.
 #include "Bajty.h"
-#include "app/Random.h"
+#include "core/Random.h"
 #include "data/Archiv_Tahu.h"
 #include "generator/Soubor_Vyb.h"
 #include "generator/Vyber_Cisel.h"

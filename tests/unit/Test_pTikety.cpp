@@ -1,7 +1,7 @@
 // Ticket arithmetic: money into tips and tickets, progress, list rows, number patterns, the grid and
 // its diagonals, hit tests on the ticket picture, and the history of one number.
 #include "Bajty.h"
-#include "app/pTikety.h"
+#include "core/pTikety.h"
 
 #include <QTest>
 #include <cmath>

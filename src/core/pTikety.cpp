@@ -1,6 +1,5 @@
-#include "app/pTikety.h"
+#include "core/pTikety.h"
 
-#include "data/Soubory.h"
 
 #include <QStringList>
 
@@ -190,7 +189,7 @@ void pTikety::Poradi_Tip_CelkSlo(int druh, int radek, int& celkem, int& sloupec)
 }
 
 QString pTikety::Dej_Jmeno_Souboru(int druh, const QString& cesta) {
-    const QString jmeno = Jmeno_Bez_Adresare(cesta);
+    const QString jmeno = cesta.mid(std::max(cesta.lastIndexOf(u'/'), cesta.lastIndexOf(u'\\')) + 1);
     if (druh == 2)
         return jmeno.section(u'.', 0, 0);
     return jmeno;

@@ -1,4 +1,4 @@
-#include "app/Hodiny.h"
+#include "core/Hodiny.h"
 
 QDate Systemove_Hodiny::Dnes() const {
     return QDate::currentDate();

@@ -1,4 +1,4 @@
-#include "app/Prubeh.h"
+#include "core/Prubeh.h"
 
 Sledovani_Prubehu::Sledovani_Prubehu(const Prubeh& prubeh, int64_t celkem)
     : Zpetne_Volani(prubeh), Celkem(celkem > 0 ? celkem : 1) {}

@@ -1,4 +1,4 @@
-#include "app/Vb.h"
+#include "core/Vb.h"
 
 #include <QStringDecoder>
 #include <QStringEncoder>

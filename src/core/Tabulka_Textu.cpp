@@ -1,4 +1,4 @@
-#include "app/Tabulka_Textu.h"
+#include "core/Tabulka_Textu.h"
 
 #include <QFile>
 

@@ -3,11 +3,10 @@
 // One instance lives for the whole session; callers set the input members, then call the operations.
 // It holds no file and no window: the event pump of long loops is handed in as a callback.
 
-#include "app/Pole_Od_1.h"
-#include "app/Vb.h"
-#include "app/Vysledek.h"
-#include "data/Archiv_Tahu.h"
-#include "data/Soubor_Tipu.h"
+#include "core/Pole_Od_1.h"
+#include "core/Vb.h"
+#include "core/Vysledek.h"
+#include "core/Tip.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
-#include "app/Random.h"
+#include "core/Random.h"
 
-#include "app/Vb.h"
+#include "core/Vb.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>

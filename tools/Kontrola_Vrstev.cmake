@@ -1,0 +1,51 @@
+# The folders of src/ stand in layers, and an include goes only down or sideways:
+#   core  (arithmetic, ticket geometry, random, the seams)
+#   data  (files)
+#   generator analysis archive tips bettors printing settings net  (the subsystems)
+#   app   (the session, modTombi and the frame)
+#   cli
+# Windows (frm*) sit above all engine code: a subsystem's window may use the session and the
+# frame's services in app. Engine code never includes a window's header.
+# Run as: cmake -DSRC=<src folder> -P Kontrola_Vrstev.cmake ; any breach fails with its lines.
+
+get_filename_component(SRC "${SRC}" ABSOLUTE)
+set(vrstva_core 0)
+set(vrstva_data 1)
+foreach(podsystem generator analysis archive tips bettors printing settings net)
+    set(vrstva_${podsystem} 2)
+endforeach()
+set(vrstva_app 3)
+set(vrstva_cli 4)
+
+file(GLOB_RECURSE soubory RELATIVE ${SRC} ${SRC}/*.h ${SRC}/*.cpp)
+set(poruseni "")
+foreach(soubor ${soubory})
+    string(REGEX MATCH "^([^/]+)/" _ ${soubor})
+    set(slozka ${CMAKE_MATCH_1})
+    if(slozka STREQUAL "" OR NOT DEFINED vrstva_${slozka})
+        continue() # main.cpp and anything outside the layers
+    endif()
+    get_filename_component(jmeno ${soubor} NAME)
+    string(REGEX MATCH "^frm" okno ${jmeno})
+    file(STRINGS ${SRC}/${soubor} radky REGEX "^[ \t]*#[ \t]*include[ \t]*\"")
+    foreach(radek ${radky})
+        string(REGEX MATCH "\"([^/\"]+)/([^\"]+)\"" _ "${radek}")
+        set(cil ${CMAKE_MATCH_1})
+        set(cil_jmeno ${CMAKE_MATCH_2})
+        if(cil STREQUAL "" OR NOT DEFINED vrstva_${cil})
+            continue()
+        endif()
+        if(NOT okno AND cil_jmeno MATCHES "^frm")
+            list(APPEND poruseni "${soubor}: an engine file includes the window ${cil}/${cil_jmeno}")
+        elseif(okno AND NOT cil STREQUAL "cli")
+            continue()
+        elseif(${vrstva_${cil}} GREATER ${vrstva_${slozka}})
+            list(APPEND poruseni "${soubor}: ${slozka} includes ${cil}/${cil_jmeno}, a higher layer")
+        endif()
+    endforeach()
+endforeach()
+
+if(poruseni)
+    list(JOIN poruseni "\n  " text)
+    message(FATAL_ERROR "Layers of src/ broken:\n  ${text}")
+endif()
