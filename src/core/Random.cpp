@@ -44,7 +44,44 @@ char16_t Pismeno(int v) {
     return char16_t(97 + v - 38);
 }
 
+uint64_t Promichej_64(uint64_t z) {
+    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ull;
+    z = (z ^ (z >> 27)) * 0x94D049BB133111EBull;
+    return z ^ (z >> 31);
+}
+
+constexpr uint64_t Zlaty_Krok = 0x9E3779B97F4A7C15ull;
+
 } // namespace
+
+Zdroj_Seminka::Zdroj_Seminka(uint64_t seminko) : Stav(Promichej_64(seminko + Zlaty_Krok)) {}
+
+float Zdroj_Seminka::Rnd() {
+    Stav += Zlaty_Krok;
+    Posledni = float(Promichej_64(Stav) >> 40) / 16777216.0f;
+    return Posledni;
+}
+
+float Zdroj_Seminka::Rnd(float x) {
+    if (x < 0) {
+        Stav = Promichej_64(uint64_t(std::bit_cast<uint32_t>(x)) * Zlaty_Krok);
+        return Rnd();
+    }
+    if (x == 0)
+        return Posledni;
+    return Rnd();
+}
+
+void Zdroj_Seminka::Randomize() {
+    static QElapsedTimer hodiny;
+    if (!hodiny.isValid())
+        hodiny.start();
+    Randomize(double(QDateTime::currentMSecsSinceEpoch()) + double(hodiny.nsecsElapsed() % 1000000) / 1e6);
+}
+
+void Zdroj_Seminka::Randomize(double x) {
+    Stav = Promichej_64(Stav ^ (std::bit_cast<uint64_t>(x) * Zlaty_Krok));
+}
 
 float Zdroj_Casovy::Rnd() {
     Stav = uint32_t((uint64_t(Stav) * 1140671485u + 12820163u) & Maska_24);

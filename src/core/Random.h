@@ -36,6 +36,22 @@ private:
     float Posledni = 0.0f;
 };
 
+// A source for one generating run: 64 bits of state taken from the run seed, so that every seed
+// starts the draw somewhere else and the same seed gives the same numbers. Randomize stirs its
+// value into the state instead of replacing it, so the reseeding at each ticket keeps all of it.
+class Zdroj_Seminka final : public Zdroj_Nahody {
+public:
+    explicit Zdroj_Seminka(uint64_t seminko);
+    float Rnd() override;
+    float Rnd(float x) override;
+    void Randomize() override;
+    void Randomize(double x) override;
+
+private:
+    uint64_t Stav;
+    float Posledni = 0.0f;
+};
+
 class Random final {
 public:
     // Key and prefix of the password store: Pws holds Cipher of the prefix and the enciphered password.

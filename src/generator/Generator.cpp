@@ -73,7 +73,8 @@ Vysledek_Generatoru Generuj(const Zadani_Generatoru& z, Zaznam_Tipu& soubor, con
     v.Seminko = z.Seminko ? *z.Seminko : Seminko_Z_Hodin();
     v.Max_Tretich_Cen = z.Max_Tretich_Cen;
 
-    Zdroj_Casovy vlastni_zdroj;
+    // The run's own source starts from the seed, so no two seeds share the first tips.
+    Zdroj_Seminka vlastni_zdroj(v.Seminko);
     Random nahoda(zdroj ? *zdroj : vlastni_zdroj);
 
     const auto& c = z.Check1;
