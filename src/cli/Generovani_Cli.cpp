@@ -12,12 +12,16 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cmath>
 #include <csignal>
 #include <memory>
 
 namespace {
 
 volatile std::sig_atomic_t Preruseno = 0;
+
+// --cas at most: a year is far beyond any run, and its milliseconds fit the clock.
+constexpr double Nejdele_Sekund = 365.0 * 24 * 3600;
 
 } // namespace
 
@@ -56,6 +60,11 @@ int Generovani(const QStringList& args) {
                                              : Tiketu_Pro_Tipy(z.Pocet_Tipu);
     const QList<int> tutovky = cisla(u"--tutovky"_qs, 1, 3, 1, 49);
     z.Tutovky.assign(tutovky.begin(), tutovky.end());
+    // A tip never holds a number twice: a repeated tutovka is refused like a repeated pool number.
+    QList<int> serazene = tutovky;
+    std::sort(serazene.begin(), serazene.end());
+    if (std::adjacent_find(serazene.begin(), serazene.end()) != serazene.end() && spatna.isEmpty())
+        spatna = u"--tutovky"_qs;
     // The pool as the window makes it: the list of "Použít" or "Vynechat", then Priprav_Okruh.
     Vyber_Cisel vyber;
     Boxy_Tutovek boxy{};
@@ -119,7 +128,8 @@ int Generovani(const QStringList& args) {
     if (const auto sekundy = a.Volba(u"--cas"_qs)) {
         bool ok = false;
         cas = sekundy->toDouble(&ok);
-        if (!ok || cas <= 0)
+        // inf, nan and a time beyond the millisecond clock are no time limit.
+        if (!ok || !std::isfinite(cas) || cas <= 0 || cas > Nejdele_Sekund)
             spatna = spatna.isEmpty() ? u"--cas"_qs : spatna;
     }
     if (!spatna.isEmpty())
@@ -133,6 +143,14 @@ int Generovani(const QStringList& args) {
         const int pocet = Priprav_Okruh(vyber, boxy);
         z.Okruh_Cisel.assign(vyber.Okruh_Cisel.begin(), vyber.Okruh_Cisel.begin() + pocet);
     }
+    // Reversed bounds are swapped, as the window swaps them when its box is left.
+    if (z.Suma[0] > z.Suma[1])
+        std::swap(z.Suma[0], z.Suma[1]);
+    if (z.Rozsah[0] > z.Rozsah[1])
+        std::swap(z.Rozsah[0], z.Rozsah[1]);
+    // What no tip can meet is refused before anything is written.
+    if (const QString chyba = Kontrola_Zadani(z); !chyba.isEmpty())
+        return Chyba(chyba);
 
     // Check1(2) walks the whole archive of the file, both draws.
     Archiv_Tahu archiv;
@@ -155,6 +173,12 @@ int Generovani(const QStringList& args) {
     std::signal(SIGINT, [](int) { Preruseno = 1; });
     Zpetna_Volani_Generatoru volani;
     volani.Procenta = [&](int) { return Preruseno == 0 && (cas <= 0 || hodiny.elapsed() < qint64(cas * 1000)); };
+    // A run that gets stuck ends with its reason unless a time limit was given to wait for.
+    volani.Uvaznuti = [&](const QString& zprava) {
+        if (cas > 0)
+            Chyba(zprava);
+        return cas > 0;
+    };
     auto soubor_tipu = std::make_unique<Zaznam_Tipu>();
     const Vysledek_Generatoru vysledek = Generuj(z, *soubor_tipu, volani);
     std::signal(SIGINT, SIG_DFL);
@@ -162,11 +186,12 @@ int Generovani(const QStringList& args) {
     const Vysledek zapis = Uloz_Soubor(*vystup, Zapis_Zaznam_Tipu(*soubor_tipu));
     if (!zapis.Ok())
         return Chyba(zapis.Zprava);
-    Vypis(u"tikety %1 tipy %2 hotovo %3 seminko %4"_qs.arg(soubor_tipu->Pocet_Tiketu)
-              .arg(soubor_tipu->Pocet_Tipu)
+    // The counts asked for, then the tips made, which the file's header holds.
+    Vypis(u"tikety %1 tipy %2 hotovo %3 seminko %4"_qs.arg(z.Pocet_Tiketu)
+              .arg(z.Pocet_Tipu)
               .arg(vysledek.Pocet_Tipu_Hotovo)
               .arg(vysledek.Seminko));
-    if (vysledek.Konec == Konec_Behu::Chyba)
+    if (vysledek.Konec == Konec_Behu::Chyba || vysledek.Konec == Konec_Behu::Nelze_Dokoncit)
         return Chyba(vysledek.Chyba);
     return Uspech;
 }

@@ -8,6 +8,8 @@
 
 #include <QDateTime>
 #include <QElapsedTimer>
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -31,6 +33,46 @@ uint64_t Seminko_Z_Hodin() {
 constexpr int64_t Kroku_Mezi_Dotazy = 2048;
 // Omezeni_Ceny walks the whole archive; it weighs as many draws.
 constexpr int64_t Vaha_Ceny = 64;
+
+// Who turned a candidate away, for the word of a run that gets stuck. The range and the pool only
+// narrow the draw; what they leave is checked before the run.
+enum Filtr { Pod_Sebou = 11, Pocet_Filtru = 12 };
+
+const QString& Jmeno_Filtru(int filtr) {
+    static const std::array<QString, Pocet_Filtru> jmena{
+        u"sloupec, řádek, křížem"_qs,   u"max. třetích cen"_qs,    u"vynechat tahy od"_qs,
+        u"čísel v dekádě"_qs,           u"neopakovat čísla v tiketu"_qs, u"sudá / lichá / rozptyl"_qs,
+        u"dvojic vedle sebe"_qs,        u"trojic vedle sebe"_qs,   u"suma od - do"_qs,
+        u"rozsah čísel min - max"_qs,   u"průnik s předchozím tipem"_qs, u"tři čísla pod sebou"_qs};
+    return jmena[std::size_t(filtr)];
+}
+
+QString Text_Uvaznuti(const std::array<int64_t, Pocet_Filtru>& zamitnuto) {
+    int nejvic = Pod_Sebou;
+    int64_t celkem = 0;
+    for (int f = 0; f < Pocet_Filtru; ++f) {
+        celkem += zamitnuto[std::size_t(f)];
+        if (zamitnuto[std::size_t(f)] > zamitnuto[std::size_t(nejvic)])
+            nejvic = f;
+    }
+    const int procent = celkem > 0 ? int(100 * zamitnuto[std::size_t(nejvic)] / celkem) : 0;
+    return u"Generování nemůže pokračovat: dlouho neprošel žádný tip. Nejvíc kandidátů vyřazuje omezení \"%1\" (%2 %). Upravte omezení nebo volte \"Konec\"."_qs
+        .arg(Jmeno_Filtru(nejvic))
+        .arg(procent);
+}
+
+// Bounds that the window swaps on leaving its boxes: the engine reads them the same way.
+Zadani_Generatoru Srovnane_Meze(Zadani_Generatoru z) {
+    if (z.Suma[0] > z.Suma[1])
+        std::swap(z.Suma[0], z.Suma[1]);
+    if (z.Rozsah[0] > z.Rozsah[1])
+        std::swap(z.Rozsah[0], z.Rozsah[1]);
+    return z;
+}
+
+QString Cislo(double x) {
+    return QString::number(x, 'g', 10);
+}
 
 void Oznac_Pouzita(std::array<uint8_t, 50>& pouzita, const Tiket& tiket, int pocet) {
     pouzita.fill(0);
@@ -62,14 +104,114 @@ double Pocatecni_Max_Tretich_Cen(int tipu, int auto_oprava) {
     return auto_oprava == 0 ? std::floor(tipu / 49.0 + 0.5) : 0;
 }
 
+QString Kontrola_Zadani(const Zadani_Generatoru& zadani) {
+    const Zadani_Generatoru z = Srovnane_Meze(zadani);
+    const auto& c = z.Check1;
+    if (z.Pocet_Tipu < 1 || z.Pocet_Tipu > Max_Tiketu * Sloupcu_Tiketu)
+        return u"Počet tipů musí být od 1 do %1."_qs.arg(Max_Tiketu * Sloupcu_Tiketu);
+    if (z.Pocet_Tiketu < 1 || z.Pocet_Tiketu > Max_Tiketu)
+        return u"Počet tiketů musí být od 1 do %1."_qs.arg(Max_Tiketu);
+    const int tutovek = std::min<int>(int(z.Tutovky.size()), 3);
+    uint64_t tutovky = 0;
+    int suma_tutovek = 0, sudych_tutovek = 0;
+    for (int i = 0; i < tutovek; ++i) {
+        const int t = z.Tutovky[std::size_t(i)];
+        if (t < 1 || t > 49)
+            return u"Tutovka musí být číslo od 1 do 49."_qs;
+        if ((tutovky >> t) & 1)
+            return u"Tutovka %1 je zadána dvakrát: tip nesmí obsahovat stejné číslo dvakrát."_qs.arg(t);
+        tutovky |= uint64_t(1) << t;
+        suma_tutovek += t;
+        sudych_tutovek += int(t % 2 == 0);
+    }
+    const int potreba = 6 - tutovek;
+
+    // The numbers a drawn position can take.
+    uint64_t okruh = 0;
+    for (int x : z.Okruh_Cisel)
+        if (x >= 1 && x <= 49)
+            okruh |= uint64_t(1) << x;
+    std::vector<int> dovolena;
+    for (int x = 1; x <= 49; ++x) {
+        if ((tutovky >> x) & 1)
+            continue;
+        if (c[9] && (x < z.Rozsah[0] || x > z.Rozsah[1]))
+            continue;
+        if (z.Vyber == Vyber_Okruhu::Pouzit_Vybrana && !((okruh >> x) & 1))
+            continue;
+        if (z.Vyber == Vyber_Okruhu::Vynechat_Vybrana && ((okruh >> x) & 1))
+            continue;
+        dovolena.push_back(x);
+    }
+    const int pocet = int(dovolena.size());
+    if (pocet < potreba) {
+        if (c[9] && z.Rozsah[1] - z.Rozsah[0] + 1 < potreba)
+            return u"Rozsah čísel %1 - %2 je užší než %3 čísel, která tip potřebuje."_qs.arg(Cislo(z.Rozsah[0]),
+                                                                                          Cislo(z.Rozsah[1]))
+                .arg(potreba);
+        return u"Omezení nechávají k losování jen %1 čísel, tip jich potřebuje %2."_qs.arg(pocet).arg(potreba);
+    }
+    if (c[3]) {
+        int vejde = 0;
+        for (int d = 0; d < 5; ++d) {
+            const auto v_dekade = std::count_if(dovolena.begin(), dovolena.end(), [d](int x) { return (x - 1) / 10 == d; });
+            vejde += int(std::clamp<double>(double(v_dekade), 0, std::max(0.0, std::floor(z.Limit_Dekada))));
+        }
+        if (vejde < potreba)
+            return u"S omezením \"čísel v dekádě\" %1 nelze z dovolených čísel sestavit tip."_qs.arg(Cislo(z.Limit_Dekada));
+    }
+    if (c[5]) {
+        const int sudych = int(std::count_if(dovolena.begin(), dovolena.end(), [](int x) { return x % 2 == 0; }));
+        const int lichych = pocet - sudych;
+        bool lze = false;
+        for (int d = std::max(0, potreba - lichych); d <= std::min(potreba, sudych); ++d) {
+            const int e = sudych_tutovek + d, o = 6 - e;
+            lze = lze || !(e < z.Sudych - z.Rozptyl || e > z.Sudych + z.Rozptyl || o > z.Lichych + z.Rozptyl ||
+                           o < z.Lichych - z.Rozptyl);
+        }
+        if (!lze)
+            return u"Poměr sudých a lichých %1 / %2 s rozptylem %3 nedává tip o šesti číslech."_qs.arg(
+                Cislo(z.Sudych), Cislo(z.Lichych), Cislo(z.Rozptyl));
+    }
+    if (c[8]) {
+        int nejmene = suma_tutovek, nejvic = suma_tutovek;
+        for (int i = 0; i < potreba; ++i) {
+            nejmene += dovolena[std::size_t(i)];
+            nejvic += dovolena[std::size_t(pocet - 1 - i)];
+        }
+        // Both bounds are exclusive.
+        const double od = std::max<double>(nejmene, std::floor(z.Suma[0]) + 1);
+        const double do_ = std::min<double>(nejvic, std::ceil(z.Suma[1]) - 1);
+        if (od > do_)
+            return u"Součet čísel tipu může být jen od %1 do %2; suma od %3 do %4 (bez krajních hodnot) nepropustí žádný tip."_qs
+                .arg(nejmene)
+                .arg(nejvic)
+                .arg(Cislo(z.Suma[0]), Cislo(z.Suma[1]));
+    }
+    if (c[4]) {
+        // Columns 1 to 8 of a ticket may not share a drawn number.
+        const int sloupcu = std::min(8, z.Pocet_Tipu < Sloupcu_Tiketu ? z.Pocet_Tipu : Sloupcu_Tiketu);
+        if (sloupcu * potreba > pocet)
+            return u"\"Neopakovat čísla v tiketu\" potřebuje %1 různých čísel, k losování je jich jen %2."_qs
+                .arg(sloupcu * potreba)
+                .arg(pocet);
+    }
+    if (c[0] && (z.Omezeni[0] < 1 || z.Omezeni[1] < 1))
+        return u"Omezení \"sloupec, řádek, křížem\" s nulovou mezí nepropustí žádný tip."_qs;
+    if (c[10] && z.Prunik > potreba)
+        return u"Průnik s předchozím tipem může být nejvýš %1."_qs.arg(potreba);
+    return {};
+}
+
 float Seminko_Tiketu(uint64_t seminko_behu, int tiket, uint32_t obnoveni) {
     const uint64_t h = Splitmix(seminko_behu ^ Splitmix((uint64_t(uint32_t(tiket)) << 32) | obnoveni));
     return float(h >> 40) * (1.0f / 16777216.0f);
 }
 
-Vysledek_Generatoru Generuj(const Zadani_Generatoru& z, Zaznam_Tipu& soubor, const Zpetna_Volani_Generatoru& volani,
-                            Zdroj_Nahody* zdroj) {
+Vysledek_Generatoru Generuj(const Zadani_Generatoru& zadani, Zaznam_Tipu& soubor,
+                            const Zpetna_Volani_Generatoru& volani, Zdroj_Nahody* zdroj) {
     Vysledek_Generatoru v;
+    const Zadani_Generatoru z = Srovnane_Meze(zadani);
     v.Seminko = z.Seminko ? *z.Seminko : Seminko_Z_Hodin();
     v.Max_Tretich_Cen = z.Max_Tretich_Cen;
 
@@ -97,20 +239,39 @@ Vysledek_Generatoru Generuj(const Zadani_Generatoru& z, Zaznam_Tipu& soubor, con
     int pokusy = 0;
     int procento = 0;
     int64_t kroky = 0, dalsi_dotaz = Kroku_Mezi_Dotazy;
+    int64_t kroky_pri_tipu = 0;
+    bool uvaznuti_ohlaseno = false;
+    bool treti_ceny_ohlaseny = false;
+    std::array<int64_t, Pocet_Filtru> zamitnuto{};
     Tip tip;
 
     auto chyba = [&] {
         v.Konec = Konec_Behu::Chyba;
         v.Chyba = Text_Chyba_Generovani;
     };
-    // The stop flag; the callback also lets the window's events run.
+    // The stop flag; the callback also lets the window's events run. A long stretch without a tip
+    // is told once, and the caller may end the run there.
     auto zastavit = [&] {
         if (kroky < dalsi_dotaz)
             return false;
+        if (!uvaznuti_ohlaseno && kroky - kroky_pri_tipu > Kroku_Bez_Tipu) {
+            uvaznuti_ohlaseno = true;
+            const QString zprava = Text_Uvaznuti(zamitnuto);
+            if (volani.Uvaznuti && !volani.Uvaznuti(zprava)) {
+                v.Konec = Konec_Behu::Nelze_Dokoncit;
+                v.Chyba = zprava;
+                return true;
+            }
+        }
         dalsi_dotaz = kroky + Kroku_Mezi_Dotazy;
         return volani.Procenta && !volani.Procenta(procento);
     };
 
+    if (const QString chyba = Kontrola_Zadani(z); !chyba.isEmpty()) {
+        v.Konec = Konec_Behu::Chyba;
+        v.Chyba = chyba;
+        return v;
+    }
     if (c[10]) {
         // Val of the box goes into a byte: what doesn't fit is the run's fault.
         if (!(z.Prunik > -0.5 && z.Prunik < 255.5)) {
@@ -149,6 +310,10 @@ beh:
         // began, which is what Tipu_Pred_Tiketem is kept for, so that Pocet_Tipu_Hotovo tells the truth.
         pocet = tipu_pred_tiketem;
         pokusy = 0;
+        // A ticket given up leaves none of its columns: they are no tips, and "neopakovat" would
+        // not hold between them and the new ones.
+        for (int k = 1; k <= Sloupcu_Tiketu; ++k)
+            soubor.Tikety[tiket].Cisla[k] = Tip{};
         v.Pouzita_Cisla.fill(0);
         nahoda.Shuffle(double(Seminko_Tiketu(v.Seminko, tiket, obnoveni++)));
         const int sloupcu =
@@ -189,7 +354,8 @@ beh:
                     goto tah;
                 ++kroky;
                 if (zastavit()) {
-                    v.Konec = Konec_Behu::Zastaveno;
+                    if (v.Konec != Konec_Behu::Nelze_Dokoncit)
+                        v.Konec = Konec_Behu::Zastaveno;
                     goto konec;
                 }
                 if (c[9] && (x < z.Rozsah[0] || x > z.Rozsah[1]))
@@ -199,9 +365,12 @@ beh:
                 if (z.Vyber == Vyber_Okruhu::Vynechat_Vybrana && ((okruh >> x) & 1))
                     goto tah;
                 // A count stays even when a later test sends the number back to the draw.
-                if (c[3] && ++dekady[(x - 1) / 10] > z.Limit_Dekada)
+                if (c[3] && ++dekady[(x - 1) / 10] > z.Limit_Dekada) {
+                    ++zamitnuto[3];
                     goto novy_pokus;
+                }
                 if (c[4] && sloupec < 9 && ((pouzita >> x) & 1)) {
+                    ++zamitnuto[4];
                     if (++pokusy > z.Pocet_Pruchodu)
                         goto novy_tiket;
                     goto tah;
@@ -209,17 +378,19 @@ beh:
             }
 
             {
-                bool dlouhe = false;
-                bool kratke = false;
+                int filtr = -1; // who rejected the candidate
                 if (pTikety::Cisla_Pod_Sebou(3, 0, tip))
-                    dlouhe = true;
+                    filtr = Pod_Sebou;
                 else if (c[0] && modOkruh_Cisel::Omezeni_Rad_Slo_Kriz(tip, pocet_tutovek, z.Omezeni[0], z.Omezeni[1],
                                                                       z.Omezeni[2]))
-                    dlouhe = true;
+                    filtr = 0;
+                bool dlouhe = filtr >= 0;
+                bool kratke = false;
                 if (!dlouhe && c[1]) {
                     if (z.Auto_Oprava == 0)
                         ++zamitnuti;
                     if (modOkruh_Cisel::Omezeni_Treti_Ceny(soubor, tip, tiket, v.Max_Tretich_Cen)) {
+                        ++zamitnuto[1];
                         ++zamitnuti;
                         if (int16_t(zamitnuti) == z.Pocet_Pruchodu && z.Auto_Oprava == 1) {
                             v.Max_Tretich_Cen += 1;
@@ -228,15 +399,20 @@ beh:
                                 goto beh;
                             if (z.Opakovat_Volba == 1)
                                 goto novy_tiket;
-                        } else if (int16_t(zamitnuti) > 5000 && volani.Zprava) {
+                        } else if (int16_t(zamitnuti) > 5000 && !treti_ceny_ohlaseny && volani.Zprava) {
+                            // Once a run: the advice does not change by repeating it.
+                            treti_ceny_ohlaseny = true;
                             volani.Zprava(Text_Treti_Ceny);
                         }
                         goto novy_pokus;
                     }
                 }
-                if (!dlouhe && c[5] && modOkruh_Cisel::Omezeni_Sud_Lich(tip, z.Sudych, z.Lichych, z.Rozptyl))
+                if (!dlouhe && c[5] && modOkruh_Cisel::Omezeni_Sud_Lich(tip, z.Sudych, z.Lichych, z.Rozptyl)) {
                     dlouhe = true;
+                    filtr = 5;
+                }
                 if (dlouhe) {
+                    ++zamitnuto[std::size_t(filtr)];
                     // The long form: in column 10 the fourth one gives the ticket up.
                     if (c[4] && sloupec == 10 && ++pokusy == 4)
                         goto novy_tiket;
@@ -245,33 +421,42 @@ beh:
                     goto novy_pokus;
                 }
                 if (c[6] && modOkruh_Cisel::Omezeni_Dvojice(tip, z.Max_Dvojic))
-                    kratke = true;
+                    kratke = true, filtr = 6;
                 else if (c[7] && modOkruh_Cisel::Omezeni_Trojice(tip, z.Max_Trojic))
-                    kratke = true;
+                    kratke = true, filtr = 7;
                 else if (c[2]) {
                     kroky += Vaha_Ceny;
                     kratke = modOkruh_Cisel::Omezeni_Ceny(tip, tahy_1, z.Vynech_Tahy_1_Od, tahy_2, z.Vynech_Tahy_2_Od);
+                    filtr = 2;
                 }
                 if (kratke) {
+                    ++zamitnuto[std::size_t(filtr)];
                     if (c[4])
                         Oznac_Pouzita(v.Pouzita_Cisla, t, sloupec - 1);
                     goto novy_pokus;
                 }
-                if (c[8] && modOkruh_Cisel::Omezeni_Suma(tip, z.Suma[0], z.Suma[1]))
+                if (c[8] && modOkruh_Cisel::Omezeni_Suma(tip, z.Suma[0], z.Suma[1])) {
+                    ++zamitnuto[8];
                     goto novy_pokus;
+                }
                 if (c[10]) {
                     if (!modOkruh_Cisel::Prunik_V_Mezich(tiket, sloupec)) {
                         chyba();
                         goto konec;
                     }
-                    if (!modOkruh_Cisel::Omezeni_Prunik(soubor, tip, pocet_tutovek, prunik, tiket, sloupec))
+                    if (!modOkruh_Cisel::Omezeni_Prunik(soubor, tip, pocet_tutovek, prunik, tiket, sloupec)) {
+                        ++zamitnuto[10];
                         goto novy_pokus;
+                    }
                 }
             }
 
             // Tutovky stay in front as entered; the drawn part is sorted.
             modTombi::Setrid_Tip(tip, pocet_tutovek + 1, 6);
             ++pocet;
+            kroky_pri_tipu = kroky;
+            uvaznuti_ohlaseno = false;
+            zamitnuto.fill(0);
             for (int i = 1; i <= 6; ++i)
                 t.Cisla[sloupec][i] = pocet_tipu_16 < pocet ? 0 : tip[i];
         }
@@ -282,5 +467,14 @@ beh:
 
 konec:
     v.Pocet_Tipu_Hotovo = pocet;
+    // The header tells the tips that stand, not the tips asked for; a run that ended early keeps
+    // only the tickets that hold them.
+    soubor.Pocet_Tipu = int16_t(pocet);
+    if (v.Konec != Konec_Behu::Hotovo) {
+        const int tiketu = Tiketu_Pro_Tipy(pocet);
+        for (int t = tiketu + 1; t <= std::min<int>(soubor.Pocet_Tiketu, Max_Tiketu); ++t)
+            soubor.Tikety[t] = Tiket{};
+        soubor.Pocet_Tiketu = int16_t(tiketu);
+    }
     return v;
 }

@@ -61,15 +61,20 @@ struct Zpetna_Volani_Generatoru {
     std::function<void(int tiket, int sloupec)> Pozice; // lblTiket, lblTip
     std::function<void(int pocet_tipu)> Hotovy_Tiket;   // the status area after each ticket
     std::function<void(const QString& zprava)> Zprava;  // a message while the run goes on
+    // No tip has passed for a long while: the text names the filter that rejects most. True goes on
+    // (the window shows it and waits for "Konec"), false ends the run. Told once per stretch
+    // without a tip.
+    std::function<bool(const QString& zprava)> Uvaznuti;
 };
 
-enum class Konec_Behu { Hotovo, Zastaveno, Chyba };
+// Nelze_Dokoncit: the run stopped because no tip could pass (Uvaznuti answered false).
+enum class Konec_Behu { Hotovo, Zastaveno, Chyba, Nelze_Dokoncit };
 
 struct Vysledek_Generatoru {
     int Pocet_Tipu_Hotovo = 0;
     uint64_t Seminko = 0;
     Konec_Behu Konec = Konec_Behu::Hotovo;
-    QString Chyba;              // the message of a run that ended by a fault
+    QString Chyba;              // the message of a run that ended by a fault or could not finish
     double Max_Tretich_Cen = 0; // Text4 after the run; the automatic correction raises it
     // Pouzita_Cisla: table[x] = x for the numbers of the columns before the last rejected candidate
     // of the ticket (Check1(4) on); the run never reads it, the tip list shows it.
@@ -90,8 +95,19 @@ double Pocatecni_Max_Tretich_Cen(int tipu, int auto_oprava);
 // derived from the run seed alone.
 float Seminko_Tiketu(uint64_t seminko_behu, int tiket, uint32_t obnoveni);
 
+// What no tip can meet and is seen before a run: counts out of range, repeated tutovky, fewer
+// numbers to draw than a tip needs, a decade limit, even/odd split, sum or "neopakovat" that
+// those numbers cannot satisfy. The Czech reason, or empty when the run may start. Reversed
+// bounds of the sum and the range count as swapped, as the window swaps them.
+QString Kontrola_Zadani(const Zadani_Generatoru& zadani);
+
+// Draws a run may make without a tip before it reports itself stuck (Uvaznuti).
+inline constexpr int64_t Kroku_Bez_Tipu = 4'000'000;
+
 // Generuj: fills the store (cleared first) and tells how the run ended. Tips made before a stop or
-// a fault stay in the store. `zdroj` replaces the basic random source; by default the run has one
-// of its own, so that its tips follow from the seed alone.
+// a fault stay in the store, and its header counts them; a ticket given up leaves no column behind.
+// Settings that Kontrola_Zadani refuses end the run at once with its reason, the store untouched.
+// `zdroj` replaces the basic random source; by default the run has one of its own, so that its
+// tips follow from the seed alone.
 Vysledek_Generatoru Generuj(const Zadani_Generatoru& zadani, Zaznam_Tipu& soubor,
                             const Zpetna_Volani_Generatoru& volani = {}, Zdroj_Nahody* zdroj = nullptr);

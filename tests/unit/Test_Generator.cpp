@@ -6,6 +6,7 @@
 
 #include <QTest>
 
+#include <functional>
 #include <memory>
 #include <set>
 
@@ -82,11 +83,12 @@ private slots:
         QCOMPARE(Generuj(z, s, Obnovy().Volani()).Pocet_Tipu_Hotovo, 20);
         QCOMPARE(Tipu_V_Tiketu(s, 3), 0);
         QCOMPARE(s.Tikety[3].Cislo_Tiketu, 3);
-        // Fewer: only the tickets given are filled.
-        z.Pocet_Tipu = 25;
-        z.Pocet_Tiketu = 2;
-        QCOMPARE(Generuj(z, s, Obnovy().Volani()).Pocet_Tipu_Hotovo, 20);
-        QCOMPARE(s.Pocet_Tipu, int16_t(25));
+        // Fewer: only the tickets given are filled, and the header counts the tips made.
+        z.Pocet_Tipu = 9500;
+        z.Pocet_Tiketu = 1;
+        QCOMPARE(Generuj(z, s, Obnovy().Volani()).Pocet_Tipu_Hotovo, 10);
+        QCOMPARE(s.Pocet_Tipu, int16_t(10));
+        QCOMPARE(s.Pocet_Tiketu, int16_t(1));
     }
 
     void Filtry_Cisel_A_Obnova_Tiketu() {
@@ -157,12 +159,13 @@ private slots:
         z.Pocet_Tiketu = 30;
         z.Check1[1] = true;
         z.Seminko = 3;
-        QString zprava;
+        QStringList zpravy;
+        int po_zprave = 300; // the run goes on a while after the notice, which stands once
         Zpetna_Volani_Generatoru volani;
-        volani.Procenta = [&](int) { return zprava.isEmpty(); };
-        volani.Zprava = [&](const QString& text) { zprava = text; };
+        volani.Procenta = [&](int) { return zpravy.isEmpty() || --po_zprave > 0; };
+        volani.Zprava = [&](const QString& text) { zpravy << text; };
         const Vysledek_Generatoru v = Generuj(z, s, volani);
-        QCOMPARE(zprava, u"Volte \"Konec\" a nastavte aut. opravu třetích cen."_qs);
+        QCOMPARE(zpravy, QStringList{u"Volte \"Konec\" a nastavte aut. opravu třetích cen."_qs});
         QCOMPARE(v.Konec, Konec_Behu::Zastaveno);
         int ulozeno = 0;
         for (int t = 1; t <= 30; ++t)
@@ -183,12 +186,114 @@ private slots:
         QCOMPARE(v.Konec, Konec_Behu::Zastaveno);
         QCOMPARE(v.Pocet_Tipu_Hotovo, 25);
         QCOMPARE(Tipu_V_Tiketu(s, 3), 5);
-        // Filters that no tip meets run until they are stopped.
-        z.Check1[8] = true;
-        z.Suma = {280, 300};
-        v = Generuj(z, s, Obnovy().Volani(50));
+        QCOMPARE(s.Pocet_Tipu, int16_t(25));
+        QCOMPARE(s.Pocet_Tiketu, int16_t(3));
+
+        // A ticket given up leaves no column behind: whenever the run stops, the store holds exactly
+        // the tips it reports, and none of them shares a number with another of its ticket.
+        z = {};
+        z.Pocet_Tipu = 3;
+        z.Pocet_Tiketu = 1;
+        z.Vyber = Vyber_Okruhu::Pouzit_Vybrana;
+        z.Okruh_Cisel = {2, 5, 9, 13, 18, 24, 27, 31, 33, 38, 41, 44, 46, 48, 49, 1, 3, 6, 8};
+        z.Check1[4] = true;
+        z.Pocet_Pruchodu = 1;
+        for (int dotazu = 1; dotazu <= 40; ++dotazu) {
+            z.Seminko = uint64_t(dotazu);
+            v = Generuj(z, s, Obnovy().Volani(dotazu));
+            int ulozeno = 0;
+            uint64_t vsechna = 0;
+            for (int k = 1; k <= Sloupcu_Tiketu; ++k)
+                if (s.Tikety[1].Cisla[k][1] != 0) {
+                    ++ulozeno;
+                    QCOMPARE(vsechna & Maska_Tipu(s.Tikety[1].Cisla[k]), uint64_t(0));
+                    vsechna |= Maska_Tipu(s.Tikety[1].Cisla[k]);
+                }
+            QCOMPARE(ulozeno, v.Pocet_Tipu_Hotovo);
+            QCOMPARE(int(s.Pocet_Tipu), v.Pocet_Tipu_Hotovo);
+        }
+    }
+
+    void Nesplnitelna_Omezeni() {
+        // What no tip can meet is refused before the run, and the store stays as it was.
+        struct Pripad {
+            std::function<void(Zadani_Generatoru&)> Nastav;
+            QString Zprava;
+        };
+        const std::vector<Pripad> pripady{
+            {[](Zadani_Generatoru& z) { z.Check1[9] = true, z.Rozsah = {1, 5}; },
+             u"Rozsah čísel 1 - 5 je užší než 6 čísel, která tip potřebuje."_qs},
+            {[](Zadani_Generatoru& z) { z.Check1[9] = true, z.Rozsah = {30, 26}, z.Tutovky = {1, 2}; }, QString()},
+            {[](Zadani_Generatoru& z) { z.Check1[8] = true, z.Suma = {300, 280}; },
+             u"Součet čísel tipu může být jen od 21 do 279; suma od 280 do 300 (bez krajních hodnot) nepropustí žádný tip."_qs},
+            {[](Zadani_Generatoru& z) { z.Check1[8] = true, z.Suma = {500, 10}; }, QString()},
+            {[](Zadani_Generatoru& z) { z.Check1[8] = true, z.Suma = {20, 40}; }, QString()},
+            {[](Zadani_Generatoru& z) { z.Check1[8] = true, z.Suma = {21, 22}; }, u"Součet"_qs},
+            {[](Zadani_Generatoru& z) { z.Check1[5] = true, z.Sudych = 6, z.Lichych = 6, z.Rozptyl = 0; },
+             u"Poměr sudých a lichých 6 / 6 s rozptylem 0 nedává tip o šesti číslech."_qs},
+            {[](Zadani_Generatoru& z) { z.Check1[5] = true, z.Sudych = 6, z.Lichych = 0, z.Rozptyl = 0; }, QString()},
+            {[](Zadani_Generatoru& z) { z.Check1[3] = true, z.Limit_Dekada = 1; },
+             u"S omezením \"čísel v dekádě\" 1 nelze z dovolených čísel sestavit tip."_qs},
+            {[](Zadani_Generatoru& z) {
+                 z.Check1[4] = true, z.Vyber = Vyber_Okruhu::Pouzit_Vybrana;
+                 for (int x = 1; x <= 15; ++x)
+                     z.Okruh_Cisel.push_back(x);
+             },
+             u"\"Neopakovat čísla v tiketu\" potřebuje 48 různých čísel, k losování je jich jen 15."_qs},
+            {[](Zadani_Generatoru& z) { z.Vyber = Vyber_Okruhu::Pouzit_Vybrana, z.Okruh_Cisel = {3, 3, 3, 3, 3, 3, 4}; },
+             u"Omezení nechávají k losování jen 2 čísel, tip jich potřebuje 6."_qs},
+            {[](Zadani_Generatoru& z) { z.Tutovky = {5, 5}; },
+             u"Tutovka 5 je zadána dvakrát: tip nesmí obsahovat stejné číslo dvakrát."_qs},
+            {[](Zadani_Generatoru& z) { z.Pocet_Tipu = -5; }, u"Počet tipů musí být od 1 do 9500."_qs},
+        };
+        for (const Pripad& p : pripady) {
+            Zadani_Generatoru z;
+            z.Pocet_Tipu = 20;
+            z.Pocet_Tiketu = 2;
+            z.Seminko = 4;
+            p.Nastav(z);
+            Zaznam_Tipu s;
+            s.Tikety[1].Cisla[1][1] = 9;
+            const Vysledek_Generatoru v = Generuj(z, s, Obnovy().Volani());
+            QVERIFY2(Kontrola_Zadani(z).startsWith(p.Zprava), qPrintable(p.Zprava));
+            if (p.Zprava.isEmpty()) {
+                QCOMPARE(v.Konec, Konec_Behu::Hotovo);
+                QCOMPARE(v.Pocet_Tipu_Hotovo, 20);
+            } else {
+                QVERIFY(v.Konec == Konec_Behu::Chyba && v.Chyba == Kontrola_Zadani(z));
+                QCOMPARE(s.Tikety[1].Cisla[1][1], uint8_t(9));
+            }
+        }
+
+        // All even numbers make an even sum, and only 151 may pass: the run says which filter
+        // rejects most, once, and ends when the caller says so.
+        Zadani_Generatoru z;
+        z.Pocet_Tipu = 10;
+        z.Pocet_Tiketu = 1;
+        z.Seminko = 5;
+        z.Check1[5] = z.Check1[8] = true;
+        z.Sudych = 6, z.Lichych = 0, z.Rozptyl = 0;
+        z.Suma = {150, 152};
+        QVERIFY(Kontrola_Zadani(z).isEmpty());
+        Zaznam_Tipu s;
+        QStringList zpravy;
+        int po_zprave = 100;
+        Zpetna_Volani_Generatoru volani;
+        volani.Procenta = [&](int) { return zpravy.isEmpty() || --po_zprave > 0; };
+        volani.Uvaznuti = [&](const QString& zprava) {
+            zpravy << zprava;
+            return true;
+        };
+        Vysledek_Generatoru v = Generuj(z, s, volani);
         QCOMPARE(v.Konec, Konec_Behu::Zastaveno);
-        QCOMPARE(v.Pocet_Tipu_Hotovo, 0);
+        QCOMPARE(zpravy.size(), 1);
+        QVERIFY2(zpravy[0].contains(u"\"sudá / lichá / rozptyl\""_qs), qPrintable(zpravy[0]));
+        volani = Obnovy().Volani(100000);
+        volani.Uvaznuti = [](const QString&) { return false; };
+        v = Generuj(z, s, volani);
+        QCOMPARE(v.Konec, Konec_Behu::Nelze_Dokoncit);
+        QCOMPARE(v.Chyba, zpravy[0]);
+        QCOMPARE(s.Pocet_Tipu, int16_t(0));
     }
 
     void Prunik_A_Chyby() {
