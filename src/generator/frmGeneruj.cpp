@@ -46,6 +46,7 @@ frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
       txtSeminko(Okno.Pojmenuj(new QLineEdit(this), u"txtSeminko"_qs)),
       txtVlastni_Seminko(Okno.Pojmenuj(new QLineEdit(this), u"txtVlastni_Seminko"_qs)),
       lblTiket(Okno.Pojmenuj(new QLabel(this), u"lblTiket"_qs)), lblTip(Okno.Pojmenuj(new QLabel(this), u"lblTip"_qs)),
+      lblStav_Behu(Okno.Pojmenuj(new QLabel(this), u"lblStav_Behu"_qs)),
       fraTypyRozpisu(Okno.Pojmenuj(new QGroupBox(this), u"fraTypyRozpisu"_qs)),
       lstSportka(Okno.Pojmenuj(new QListWidget(this), u"lstSportka"_qs)),
       chkSpojvatRozpisy(Okno.Pojmenuj(new QCheckBox(this), u"chkSpojvatRozpisy"_qs)),
@@ -184,6 +185,10 @@ QLayout* frmGeneruj::Rozvrh_Poctu() {
     auto* radky = new QFormLayout(prubeh);
     radky->addRow(Okno.Text(u"lblTiket_Popis"_qs), lblTiket);
     radky->addRow(Okno.Text(u"lblTip_Popis"_qs), lblTip);
+    lblStav_Behu->setWordWrap(true);
+    lblStav_Behu->setStyleSheet(u"color: #c00000"_qs);
+    lblStav_Behu->setMaximumWidth(txtPoc_Tipu->maximumWidth() * 2);
+    radky->addRow(lblStav_Behu);
 
     auto* vlevo = new QVBoxLayout;
     vlevo->addLayout(pocty);
@@ -337,8 +342,14 @@ void frmGeneruj::Generuj() {
               : vyber.Vynechat_Vybrana ? Vyber_Okruhu::Vynechat_Vybrana
                                        : Vyber_Okruhu::Bez_Vyberu;
     z.Okruh_Cisel.assign(vyber.Okruh_Cisel.begin(), vyber.Okruh_Cisel.begin() + okruh);
+    // What no tip can meet is said before the run; the window and the former tips stay as they are.
+    if (const QString chyba = Kontrola_Zadani(z); !chyba.isEmpty()) {
+        Sezeni.Sluzby->Zprava(chyba);
+        return;
+    }
 
     Beh_Bezi = true;
+    lblStav_Behu->clear();
     cmdOK->setEnabled(false);
     cmdZrusit->setText(Okno.Text(u"cmdZrusit.Konec"_qs));
     Omezeni->Zamkni_Pro_Beh(true);
@@ -354,6 +365,11 @@ void frmGeneruj::Generuj() {
         };
         volani.Hotovy_Tiket = [this](int pocet) { Sezeni.Sluzby->Nastav_Status(QString(), QString::number(pocet)); };
         volani.Zprava = [this](const QString& zprava) { Sezeni.Sluzby->Zprava(zprava); };
+        // A stuck run goes on until "Konec"; the progress area says why no tip comes.
+        volani.Uvaznuti = [this](const QString& zprava) {
+            lblStav_Behu->setText(zprava);
+            return true;
+        };
         vysledek = ::Generuj(z, Sezeni.Tipy.Soubor_Tipu, volani);
     }
     Beh_Bezi = false;

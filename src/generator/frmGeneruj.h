@@ -42,6 +42,7 @@ public:
     QLineEdit* txtVlastni_Seminko; // a seed typed for the next run; empty takes one from the clock
     QLabel* lblTiket;
     QLabel* lblTip;
+    QLabel* lblStav_Behu; // under the progress: why a run makes no tips
     QGroupBox* fraTypyRozpisu;
     QListWidget* lstSportka;
     QCheckBox* chkSpojvatRozpisy;

@@ -5,6 +5,7 @@
 #include "app/Sluzby_Oken.h"
 #include "app/frmMDITombi_Stav.h"
 #include "generator/frmGeneruj.h"
+#include "generator/frmGeneruj_Omezeni.h"
 #include "generator/frmGeneruj_Vyber.h"
 #include "tips/frmVypisTipu.h"
 
@@ -144,6 +145,42 @@ private slots:
         generator->Vyber->optVybrana_Cisla[0]->click();
         QTest::mouseClick(generator->cmdOK, Qt::LeftButton);
         QVERIFY(prostredi.Oznameni().contains(u"Prosím doplnit Počet tipů nebo tiketů."_qs));
+    }
+
+    void Nesplnitelna_Omezeni() {
+        Prostredi prostredi(QDate(2026, 11, 28));
+        frmMDITombi& okno = prostredi.Spust();
+        frmGeneruj* generator = Otevri_Generator(prostredi);
+        frmGeneruj_Omezeni* omezeni = generator->Omezeni;
+        // A range of five numbers is refused before the run; the window stays for a change.
+        omezeni->Check1[9]->setChecked(true);
+        omezeni->txtRozsah_Min_Max[1]->setText(u"5"_qs);
+        QTest::mouseClick(generator->cmdOK, Qt::LeftButton);
+        QVERIFY(prostredi.Oznameni().contains(u"Rozsah čísel 1 - 5 je užší než 6 čísel, která tip potřebuje."_qs));
+        QVERIFY(okno.Najdi_Okno<frmGeneruj>() == generator);
+        QVERIFY(!generator->Bezi());
+        omezeni->Check1[9]->setChecked(false);
+
+        // Six even numbers never sum to 151: the progress area names the filter until "Konec".
+        omezeni->Check1[5]->setChecked(true);
+        omezeni->txtSudLich[1]->setText(u"6"_qs);
+        omezeni->txtSudLich[0]->setText(u"0"_qs);
+        omezeni->Check1[8]->setChecked(true);
+        omezeni->txtSuma[1]->setText(u"152"_qs);
+        omezeni->txtSuma[0]->setText(u"150"_qs);
+        QString stav;
+        QTimer hlidac;
+        connect(&hlidac, &QTimer::timeout, generator, [&] {
+            if (stav.isEmpty() && !generator->lblStav_Behu->text().isEmpty()) {
+                stav = generator->lblStav_Behu->text();
+                QTest::mouseClick(generator->cmdZrusit, Qt::LeftButton);
+            }
+        });
+        hlidac.start(0);
+        QTest::mouseClick(generator->cmdOK, Qt::LeftButton);
+        hlidac.stop();
+        QVERIFY2(stav.contains(u"\"sudá / lichá / rozptyl\""_qs), qPrintable(stav));
+        QCOMPARE(prostredi.Data->Generator.Pocet_Tipu_Hotovo, 0);
     }
 
     void Sazejici_A_Cisla_Ze_Stavu() {
