@@ -27,6 +27,20 @@ bool Cisla_Plati(const Seznam_Cisel& seznam, int pocet) {
     return true;
 }
 
+// The first number that stands twice in the lists together, or 0. The numbers and the tutovky
+// make one list, and a tip never holds a number twice.
+int Opakovane_Cislo(std::initializer_list<std::pair<const uint8_t*, int>> seznamy) {
+    uint64_t videno = 0;
+    for (const auto& [cisla, pocet] : seznamy)
+        for (int i = 0; i < pocet; ++i) {
+            const uint64_t bit = uint64_t(1) << cisla[i];
+            if (videno & bit)
+                return cisla[i];
+            videno |= bit;
+        }
+    return 0;
+}
+
 } // namespace
 
 Zaznam_Vyb Cti_Zaznam_Vyb(const QByteArray& bajty) {
@@ -71,6 +85,9 @@ QString Chyba_Zaznamu_Vyb(const Zaznam_Vyb& z) {
     if (!Cisla_Plati(z.Cisla, z.Pocet_Cisel) || !Cisla_Plati(z.Vynechat, z.Pocet_Vynechat) ||
         !Cisla_Plati(tutovky, z.Pocet_Tutovek))
         return u"obsahuje číslo mimo rozsah 1 - 49"_qs;
+    const int opakovane = Opakovane_Cislo({{z.Cisla.Prvky.data(), z.Pocet_Cisel}, {z.Tutovky.Prvky.data(), z.Pocet_Tutovek}});
+    if (const int vynechane = Opakovane_Cislo({{z.Vynechat.Prvky.data(), z.Pocet_Vynechat}}); opakovane || vynechane)
+        return u"obsahuje číslo %1 dvakrát"_qs.arg(opakovane ? opakovane : vynechane);
     return {};
 }
 

@@ -244,6 +244,19 @@ private slots:
         b[51] = char(1);
         b[52] = char(50);
         QVERIFY(otevri(b, z).endsWith(u"obsahuje číslo mimo rozsah 1 - 49."_qs));
+        // A number twice, in the list, in the tutovky or in both, is refused; what stood stays.
+        const auto dvakrat = [&](std::initializer_list<std::pair<int, int>> bajty) {
+            QByteArray d(105, '\0');
+            for (const auto& [kde, co] : bajty)
+                d[kde] = char(co);
+            return otevri(d, z);
+        };
+        QVERIFY(dvakrat({{1, 9}, {2, 1}, {3, 2}, {4, 3}, {5, 4}, {6, 5}, {7, 6}, {8, 7}, {9, 8}, {10, 5}})
+                    .endsWith(u"obsahuje číslo 5 dvakrát."_qs));
+        QVERIFY(dvakrat({{1, 1}, {2, 8}, {101, 2}, {102, 5}, {103, 5}}).endsWith(u"obsahuje číslo 5 dvakrát."_qs));
+        QVERIFY(dvakrat({{1, 1}, {2, 8}, {101, 1}, {102, 8}}).endsWith(u"obsahuje číslo 8 dvakrát."_qs));
+        QVERIFY(dvakrat({{51, 2}, {52, 30}, {53, 30}}).endsWith(u"obsahuje číslo 30 dvakrát."_qs));
+        QCOMPARE(std::pair(int(z.Pocet_Cisel), int(z.Cisla[1])), std::pair(1, 7));
     }
 };
 
