@@ -74,10 +74,10 @@ QString Vypis_Behu(const Vysledek_Analyzy& v, bool dodatkova) {
     return vypis;
 }
 
-Rada_Tahu Rada_Zpetne(std::vector<Tah>& tahy, int celkem, int pocet) {
+Rada_Tahu Rada_Zpetne(const std::vector<Tah>& tahy, int celkem, int pocet) {
     return {&tahy, celkem, pocet - 1};
 }
 
-Rada_Tahu Rada_Od_Do(std::vector<Tah>& tahy, int od, int do_) {
+Rada_Tahu Rada_Od_Do(const std::vector<Tah>& tahy, int od, int do_) {
     return {&tahy, do_, do_ - od};
 }

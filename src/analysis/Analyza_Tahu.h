@@ -15,10 +15,10 @@
 #include <vector>
 
 // One series of the slice: the draws Tahy[Pocet_Tahy - Rozsah_Tahu .. Pocet_Tahy], newest last.
-// Not const: the pair statistic orders the numbers of the draws it reads in place, as it always
-// has, so a second run over the same lists can differ from the first.
+// Read only: a statistic that reorders a row does so in its own copy, so the archive and the
+// next run never see it.
 struct Rada_Tahu {
-    std::vector<Tah>* Tahy = nullptr; // Tahy_1 or Tahy_2 of the archive, element 0 unused
+    const std::vector<Tah>* Tahy = nullptr; // Tahy_1 or Tahy_2 of the archive, element 0 unused
     int Pocet_Tahy = 0;                     // index of the last draw of the slice
     int Rozsah_Tahu = 0;                    // last index minus first: a slice of n draws has n - 1
 };
@@ -113,5 +113,5 @@ QString Vypis_Behu(const Vysledek_Analyzy& vysledek, bool dodatkova);
 
 // The slice of a series as the window's two kinds of range give it: the newest `pocet` draws of
 // `celkem`, or the indices od..do.
-Rada_Tahu Rada_Zpetne(std::vector<Tah>& tahy, int celkem, int pocet);
-Rada_Tahu Rada_Od_Do(std::vector<Tah>& tahy, int od, int do_);
+Rada_Tahu Rada_Zpetne(const std::vector<Tah>& tahy, int celkem, int pocet);
+Rada_Tahu Rada_Od_Do(const std::vector<Tah>& tahy, int od, int do_);

@@ -56,7 +56,8 @@ bool Platne(const Zadani_Analyzy& z) {
 }
 
 // Walks the rows of both series, oldest first, reporting progress after each row. `krok(s, tah)`
-// returns false on a fault, which ends the walk.
+// gets a copy of the row, which the pair and triple statistics reorder while they read it: the
+// archive stays as drawn. It returns false on a fault, which ends the walk.
 template <class Krok> bool Projdi_Tahy(const Zadani_Analyzy& z, const Prubeh& prubeh, Krok krok) {
     const int64_t celkem = int64_t(z.Rady[0].Rozsah_Tahu) + 1 + z.Rady[1].Rozsah_Tahu + 1;
     Sledovani_Prubehu sledovani(prubeh, celkem);
@@ -64,7 +65,8 @@ template <class Krok> bool Projdi_Tahy(const Zadani_Analyzy& z, const Prubeh& pr
     for (int s = 0; s < 2; ++s) {
         const Rada_Tahu& r = z.Rady[std::size_t(s)];
         for (int t = r.Pocet_Tahy - r.Rozsah_Tahu; t <= r.Pocet_Tahy; ++t) {
-            if (!krok(s, (*r.Tahy)[std::size_t(t)]))
+            Tah radek = (*r.Tahy)[std::size_t(t)];
+            if (!krok(s, radek))
                 return false;
             sledovani.Krok(++hotovo);
         }
@@ -240,8 +242,8 @@ Vysledek_Analyzy A_Dvojice_Cisel(const Zadani_Analyzy& z, const Prubeh& prubeh) 
     if (!Platne(z))
         return Selhani("A_Dvojice_Cisel");
     std::array<Citac_Dvojic, 2> citace{};
-    // The row is ordered in place: a pair found out of order is swapped inside the session's list,
-    // and the later comparisons of the same row see the swapped numbers.
+    // A pair found out of order is swapped in the row's copy, and the later comparisons of the
+    // same row see the swapped numbers, as the counts have always been made.
     const bool dobehlo = Projdi_Tahy(z, prubeh, [&](int s, Tah& tah) {
         for (int i = 1; i < z.Cisel_V_Tahu; ++i) {
             for (int j = i + 1; j <= z.Cisel_V_Tahu; ++j) {
@@ -300,7 +302,7 @@ Vysledek_Analyzy A_Trojice_Cisel(const Zadani_Analyzy& z, const Prubeh& prubeh) 
                     std::sort(t.begin(), t.end());
                     if (t[1] != t[0] + 1 || t[2] != t[0] + 2)
                         continue;
-                    // The three are put in order inside the row.
+                    // The three are put in order inside the row's copy.
                     tah[i] = t[0];
                     tah[j] = t[1];
                     tah[k] = t[2];

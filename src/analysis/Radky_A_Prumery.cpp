@@ -419,11 +419,11 @@ Vysledek_Analyzy A_Suma_Tahu(const Zadani_Analyzy& z, const Prubeh& prubeh) {
     for (int s = 0; s < 2; ++s)
         v.Max_Pocet[std::size_t(s)] =
             *std::max_element(citace[std::size_t(s)].begin() + Od_Sumy, citace[std::size_t(s)].end());
-    // Both series list the counts up to the highest of the first series only: a sum of the second
-    // series drawn more often than any of the first is left out.
-    const int do_poctu = v.Max_Pocet[0];
+    // Each series lists its counts up to its own highest: bounding the second by the first would
+    // leave out its most frequent sums, which the chart shows.
     for (int s = 0; s < 2; ++s) {
         const auto& c = citace[std::size_t(s)];
+        const int do_poctu = v.Max_Pocet[std::size_t(s)];
         QString& text = s == 0 ? v.Text_1 : v.Text_2;
         text.reserve(2048);
         text += s == 0 ? QStringLiteral("\nPrvní tah :") : QStringLiteral("\nDruhý tah :");
