@@ -63,19 +63,30 @@ QString Text_Pouzitych_Cisel(const std::array<bool, 50>& pouzita, int& pocet) {
 }
 
 Vysledek Pridej_Tip(Zaznam_Tipu& tipy, int16_t& pocet_tipu_aktivni, Tip tip) {
-    const int poradi = pocet_tipu_aktivni + 1;
-    int celkem = 0, sloupec = 0;
-    pTikety::Poradi_Tip_CelkSlo(1, poradi, celkem, sloupec);
-    if (sloupec == 1 && tipy.Pocet_Tiketu >= Max_Tiketu)
+    // The tip goes right after the last tip present: a run stopped early, or a header that asked
+    // for more tips than were made, must not send it to a ticket far behind the list.
+    int pritomno = 0;
+    const int pocet_tiketu = std::clamp<int>(tipy.Pocet_Tiketu, 0, Max_Tiketu);
+    while (pritomno < pocet_tiketu * Sloupcu_Tiketu &&
+           tipy.Tikety[pritomno / Sloupcu_Tiketu + 1].Cisla[pritomno % Sloupcu_Tiketu + 1][1] != 0)
+        ++pritomno;
+    if (pritomno >= Max_Tipu)
         return Vysledek::Chyba(u"Maximu je  "_qs + u" 9500"_qs + u"  tipů"_qs);
-    pocet_tipu_aktivni = int16_t(poradi);
+    const int tiket = pritomno / Sloupcu_Tiketu + 1;
+    const int sloupec = pritomno % Sloupcu_Tiketu + 1;
+    Tiket& t = tipy.Tikety[tiket];
     if (sloupec == 1) {
-        ++tipy.Pocet_Tiketu;
-        tipy.Tikety[tipy.Pocet_Tiketu].Cislo_Tiketu = tipy.Pocet_Tiketu;
+        // A ticket opened anew holds nothing from before.
+        for (int k = 2; k <= Sloupcu_Tiketu; ++k)
+            t.Cisla[k] = Tip{};
+        if (tiket > pocet_tiketu || t.Cislo_Tiketu == 0)
+            t.Cislo_Tiketu = tiket;
     }
     modTombi::Setrid_Tip(tip, 1, Tip::Pocet());
-    tipy.Tikety[std::clamp<int>(tipy.Pocet_Tiketu, 1, Max_Tiketu)].Cisla[sloupec] = tip;
-    tipy.Pocet_Tipu = int16_t(std::max<int>(tipy.Pocet_Tipu, poradi));
+    t.Cisla[sloupec] = tip;
+    pocet_tipu_aktivni = int16_t(pritomno + 1);
+    tipy.Pocet_Tipu = int16_t(pritomno + 1);
+    tipy.Pocet_Tiketu = int16_t(std::max(pocet_tiketu, tiket));
     return Vysledek::Uspech();
 }
 

@@ -35,8 +35,9 @@ Vypis_Tipu Vypis_Tipu_Do_Listu(const Zaznam_Tipu& tipy, int pocet_tipu_aktivni, 
 // The used numbers as the status band shows them (" 1 5 17 …") and how many they are.
 QString Text_Pouzitych_Cisel(const std::array<bool, 50>& pouzita, int& pocet);
 
-// Adds the tip, sorted, as tip number pocet_tipu_aktivni + 1, opening a new ticket on its first
-// column. At 9500 tips nothing changes and the message says so.
+// Adds the tip, sorted, right after the last tip present in the store, opening a new ticket on its
+// first column; pocet_tipu_aktivni and Pocet_Tipu become the tips present. At 9500 tips nothing
+// changes and the message says so.
 Vysledek Pridej_Tip(Zaznam_Tipu& tipy, int16_t& pocet_tipu_aktivni, Tip tip);
 
 // Deletes the tip at ticket, column (1-based) and closes the gap: every tip behind it moves one

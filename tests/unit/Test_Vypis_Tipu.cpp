@@ -63,6 +63,19 @@ private slots:
         QCOMPARE(z->Tikety[2].Cislo_Tiketu, 2);
         QCOMPARE(z->Tikety[2].Cisla[1], Cisla<Tip>({1, 3, 9, 17, 22, 40}));
 
+        // After a run that stopped at 25 of 100 asked (the header still asking), or after a count
+        // that lags behind, the tip lands right after the last tip and the counts follow it.
+        for (const int16_t pred : {int16_t(25), int16_t(100), int16_t(3)}) {
+            auto zastaveny = Tipy(25);
+            zastaveny->Pocet_Tiketu = 100;
+            zastaveny->Pocet_Tipu = 100;
+            aktivni = pred;
+            QVERIFY(Pridej_Tip(*zastaveny, aktivni, Cisla<Tip>({40, 3, 17, 9, 1, 22})).Ok());
+            QCOMPARE(zastaveny->Tikety[3].Cisla[6], Cisla<Tip>({1, 3, 9, 17, 22, 40}));
+            QCOMPARE(std::pair(int(aktivni), int(zastaveny->Pocet_Tipu)), std::pair(26, 26));
+            QCOMPARE(Vypis_Tipu_Do_Listu(*zastaveny, aktivni).Pocet_Tipu_Celkem, 26);
+        }
+
         auto plny = Tipy(Max_Tipu);
         aktivni = Max_Tipu;
         QCOMPARE(Pridej_Tip(*plny, aktivni, Cisla<Tip>({1, 2, 3, 4, 5, 6})).Zprava, u"Maximu je   9500  tipů"_qs);
