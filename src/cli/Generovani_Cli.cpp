@@ -61,10 +61,14 @@ int Generovani(const QStringList& args) {
     const QList<int> tutovky = cisla(u"--tutovky"_qs, 1, 3, 1, 49);
     z.Tutovky.assign(tutovky.begin(), tutovky.end());
     // A tip never holds a number twice: a repeated tutovka is refused like a repeated pool number.
-    QList<int> serazene = tutovky;
-    std::sort(serazene.begin(), serazene.end());
-    if (std::adjacent_find(serazene.begin(), serazene.end()) != serazene.end() && spatna.isEmpty())
-        spatna = u"--tutovky"_qs;
+    QString opakovane;
+    // A tip never holds a number twice: a number repeated in a list is named.
+    const auto opakuje = [&](const QString& volba, QList<int> seznam) {
+        std::sort(seznam.begin(), seznam.end());
+        if (const auto i = std::adjacent_find(seznam.begin(), seznam.end()); i != seznam.end() && opakovane.isEmpty())
+            opakovane = u"Volba %1 opakuje číslo %2: tip nesmí obsahovat stejné číslo dvakrát."_qs.arg(volba).arg(*i);
+    };
+    opakuje(u"--tutovky"_qs, tutovky);
     // The pool as the window makes it: the list of "Použít" or "Vynechat", then Priprav_Okruh.
     Vyber_Cisel vyber;
     Boxy_Tutovek boxy{};
@@ -77,9 +81,8 @@ int Generovani(const QStringList& args) {
             vyber.Vynechat_Vybrana = !pouzit;
             vyber.Volba_Vybrana = pouzit ? 1 : 2;
             QList<int> seznam = cisla(volba, 1, 49, 1, 49);
+            opakuje(volba, seznam);
             std::sort(seznam.begin(), seznam.end());
-            if (std::adjacent_find(seznam.begin(), seznam.end()) != seznam.end() && spatna.isEmpty())
-                spatna = volba;
             for (const int n : seznam)
                 Seznam_V_Platnosti(vyber)[++Pocet_V_Platnosti(vyber)] = uint8_t(n);
             z.Vyber = pouzit ? Vyber_Okruhu::Pouzit_Vybrana : Vyber_Okruhu::Vynechat_Vybrana;
@@ -134,6 +137,8 @@ int Generovani(const QStringList& args) {
     }
     if (!spatna.isEmpty())
         return Spatne_Pouziti(u"Chybná hodnota volby "_qs + spatna + u"."_qs);
+    if (!opakovane.isEmpty())
+        return Spatne_Pouziti(opakovane);
     if (Jen_Ke_Cteni().contains(*vystup))
         return Nelze_Zapsat_Do(*vystup);
 

@@ -51,7 +51,9 @@ private slots:
         QTest::addColumn<int>("kod");
         QTest::addColumn<QString>("zprava");
         QTest::newRow("tutovky 5,5") << QStringList{u"--tutovky"_qs, u"5,5"_qs} << 2
-                                     << u"Chybná hodnota volby --tutovky."_qs;
+                                     << u"Volba --tutovky opakuje číslo 5: tip nesmí obsahovat stejné číslo dvakrát."_qs;
+        QTest::newRow("pouzit 3,9,3") << QStringList{u"--pouzit"_qs, u"3,9,3,4,5,6,7,8,10,11"_qs} << 2
+                                      << u"Volba --pouzit opakuje číslo 3: tip nesmí obsahovat stejné číslo dvakrát."_qs;
         for (const char* cas : {"inf", "nan", "1e300", "-1"})
             QTest::newRow(cas) << QStringList{u"--cas"_qs, QString::fromLatin1(cas)} << 2
                                << u"Chybná hodnota volby --cas."_qs;
