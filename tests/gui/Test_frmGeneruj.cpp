@@ -160,6 +160,14 @@ private slots:
         QVERIFY(okno.Najdi_Okno<frmGeneruj>() == generator);
         QVERIFY(!generator->Bezi());
         omezeni->Check1[9]->setChecked(false);
+        // The same tutovka twice never reaches a tip.
+        generator->Vyber->txtTutovka[0]->setText(u"5"_qs);
+        generator->Vyber->txtTutovka[1]->setText(u"5"_qs);
+        QTest::mouseClick(generator->cmdOK, Qt::LeftButton);
+        QVERIFY(prostredi.Oznameni().contains(u"Tutovka 5 je zadána dvakrát: tip nesmí obsahovat stejné číslo dvakrát."_qs));
+        QVERIFY(!generator->Bezi());
+        generator->Vyber->txtTutovka[0]->clear();
+        generator->Vyber->txtTutovka[1]->clear();
 
         // Six even numbers never sum to 151: the progress area names the filter until "Konec".
         omezeni->Check1[5]->setChecked(true);
