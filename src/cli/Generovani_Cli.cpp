@@ -10,7 +10,6 @@
 
 #include <QElapsedTimer>
 #include <QFileInfo>
-
 #include <algorithm>
 #include <cmath>
 #include <csignal>
@@ -26,9 +25,9 @@ constexpr double Nejdele_Sekund = 365.0 * 24 * 3600;
 } // namespace
 
 int Generovani(const QStringList& args) {
-    const QStringList s_hodnotou{u"--tipy"_qs,    u"--tikety"_qs,   u"--tutovky"_qs, u"--pouzit"_qs,  u"--vynechat"_qs,
-                                 u"--rsk"_qs,     u"--treti"_qs,    u"--ceny"_qs,    u"--dekada"_qs,  u"--sudlich"_qs,
-                                 u"--dvojice"_qs, u"--trojice"_qs,  u"--suma"_qs,    u"--rozsah"_qs,  u"--prunik"_qs,
+    const QStringList s_hodnotou{u"--tipy"_qs,     u"--tikety"_qs,   u"--tutovky"_qs, u"--pouzit"_qs, u"--vynechat"_qs,
+                                 u"--rsk"_qs,      u"--treti"_qs,    u"--ceny"_qs,    u"--dekada"_qs, u"--sudlich"_qs,
+                                 u"--dvojice"_qs,  u"--trojice"_qs,  u"--suma"_qs,    u"--rozsah"_qs, u"--prunik"_qs,
                                  u"--pruchodu"_qs, u"--opakovat"_qs, u"--seminko"_qs, u"--cas"_qs,    u"--out"_qs};
     const Argumenty a = Rozeber(args, s_hodnotou, {u"--neopakovat"_qs, u"--auto-oprava"_qs});
     if (!a.Chyba.isEmpty() || !a.Pozicni.isEmpty())
@@ -56,8 +55,8 @@ int Generovani(const QStringList& args) {
     };
     Zadani_Generatoru z;
     z.Pocet_Tipu = cisla(u"--tipy"_qs, 1, 1, 1, Max_Tiketu * Sloupcu_Tiketu).value(0);
-    z.Pocet_Tiketu = a.Volba(u"--tikety"_qs) ? cisla(u"--tikety"_qs, 1, 1, 1, Max_Tiketu).value(0)
-                                             : Tiketu_Pro_Tipy(z.Pocet_Tipu);
+    z.Pocet_Tiketu =
+        a.Volba(u"--tikety"_qs) ? cisla(u"--tikety"_qs, 1, 1, 1, Max_Tiketu).value(0) : Tiketu_Pro_Tipy(z.Pocet_Tipu);
     const QList<int> tutovky = cisla(u"--tutovky"_qs, 1, 3, 1, 49);
     z.Tutovky.assign(tutovky.begin(), tutovky.end());
     // A tip never holds a number twice: a repeated tutovka is refused like a repeated pool number.

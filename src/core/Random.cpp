@@ -4,7 +4,6 @@
 
 #include <QDateTime>
 #include <QElapsedTimer>
-
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -129,7 +128,9 @@ Zdroj_Casovy& Zdroj_Casovy::Sdileny() {
 
 Random::Random() : Random(Zdroj_Casovy::Sdileny()) {}
 
-Random::Random(Zdroj_Nahody& zdroj) : Pouzity_Zdroj(&zdroj) { Reset(); }
+Random::Random(Zdroj_Nahody& zdroj) : Pouzity_Zdroj(&zdroj) {
+    Reset();
+}
 
 void Random::Reset() {
     for (int k = 1; k <= 16; ++k)

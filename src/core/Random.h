@@ -3,7 +3,6 @@
 // small stream cipher that keeps the password of the lock.
 
 #include <QString>
-
 #include <cstdint>
 #include <optional>
 

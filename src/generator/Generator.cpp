@@ -40,10 +40,10 @@ enum Filtr { Pod_Sebou = 11, Pocet_Filtru = 12 };
 
 const QString& Jmeno_Filtru(int filtr) {
     static const std::array<QString, Pocet_Filtru> jmena{
-        u"sloupec, řádek, křížem"_qs,   u"max. třetích cen"_qs,    u"vynechat tahy od"_qs,
-        u"čísel v dekádě"_qs,           u"neopakovat čísla v tiketu"_qs, u"sudá / lichá / rozptyl"_qs,
-        u"dvojic vedle sebe"_qs,        u"trojic vedle sebe"_qs,   u"suma od - do"_qs,
-        u"rozsah čísel min - max"_qs,   u"průnik s předchozím tipem"_qs, u"tři čísla pod sebou"_qs};
+        u"sloupec, řádek, křížem"_qs, u"max. třetích cen"_qs,          u"vynechat tahy od"_qs,
+        u"čísel v dekádě"_qs,         u"neopakovat čísla v tiketu"_qs, u"sudá / lichá / rozptyl"_qs,
+        u"dvojic vedle sebe"_qs,      u"trojic vedle sebe"_qs,         u"suma od - do"_qs,
+        u"rozsah čísel min - max"_qs, u"průnik s předchozím tipem"_qs, u"tři čísla pod sebou"_qs};
     return jmena[std::size_t(filtr)];
 }
 
@@ -56,9 +56,9 @@ QString Text_Uvaznuti(const std::array<int64_t, Pocet_Filtru>& zamitnuto) {
             nejvic = f;
     }
     const int procent = celkem > 0 ? int(100 * zamitnuto[std::size_t(nejvic)] / celkem) : 0;
-    return u"Generování nemůže pokračovat: dlouho neprošel žádný tip. Nejvíc kandidátů vyřazuje omezení \"%1\" (%2 %). Upravte omezení nebo volte \"Konec\"."_qs
-        .arg(Jmeno_Filtru(nejvic))
-        .arg(procent);
+    return u"Generování nemůže pokračovat: dlouho neprošel žádný tip. "
+           u"Nejvíc kandidátů vyřazuje omezení \"%1\" (%2 %). Upravte omezení."_qs.arg(Jmeno_Filtru(nejvic))
+               .arg(procent);
 }
 
 // Bounds that the window swaps on leaving its boxes: the engine reads them the same way.
@@ -146,19 +146,21 @@ QString Kontrola_Zadani(const Zadani_Generatoru& zadani) {
     const int pocet = int(dovolena.size());
     if (pocet < potreba) {
         if (c[9] && z.Rozsah[1] - z.Rozsah[0] + 1 < potreba)
-            return u"Rozsah čísel %1 - %2 je užší než %3 čísel, která tip potřebuje."_qs.arg(Cislo(z.Rozsah[0]),
-                                                                                          Cislo(z.Rozsah[1]))
+            return u"Rozsah čísel %1 - %2 je užší než %3 čísel, která tip potřebuje."_qs
+                .arg(Cislo(z.Rozsah[0]), Cislo(z.Rozsah[1]))
                 .arg(potreba);
         return u"Omezení nechávají k losování jen %1 čísel, tip jich potřebuje %2."_qs.arg(pocet).arg(potreba);
     }
     if (c[3]) {
         int vejde = 0;
         for (int d = 0; d < 5; ++d) {
-            const auto v_dekade = std::count_if(dovolena.begin(), dovolena.end(), [d](int x) { return (x - 1) / 10 == d; });
+            const auto v_dekade =
+                std::count_if(dovolena.begin(), dovolena.end(), [d](int x) { return (x - 1) / 10 == d; });
             vejde += int(std::clamp<double>(double(v_dekade), 0, std::max(0.0, std::floor(z.Limit_Dekada))));
         }
         if (vejde < potreba)
-            return u"S omezením \"čísel v dekádě\" %1 nelze z dovolených čísel sestavit tip."_qs.arg(Cislo(z.Limit_Dekada));
+            return u"S omezením \"čísel v dekádě\" %1 nelze z dovolených čísel sestavit tip."_qs.arg(
+                Cislo(z.Limit_Dekada));
     }
     if (c[5]) {
         const int sudych = int(std::count_if(dovolena.begin(), dovolena.end(), [](int x) { return x % 2 == 0; }));
@@ -254,7 +256,7 @@ Vysledek_Generatoru Generuj(const Zadani_Generatoru& zadani, Zaznam_Tipu& soubor
     auto zastavit = [&] {
         if (kroky < dalsi_dotaz)
             return false;
-        if (!uvaznuti_ohlaseno && kroky - kroky_pri_tipu > Kroku_Bez_Tipu) {
+        if (!uvaznuti_ohlaseno && kroky - kroky_pri_tipu > z.Kroku_Bez_Tipu) {
             uvaznuti_ohlaseno = true;
             const QString zprava = Text_Uvaznuti(zamitnuto);
             if (volani.Uvaznuti && !volani.Uvaznuti(zprava)) {

@@ -52,6 +52,11 @@ struct Zadani_Generatoru {
 
     // The run seed; none means one is taken from the clock.
     std::optional<uint64_t> Seminko;
+
+    // Draws a run may make without a tip before it calls itself stuck (Uvaznuti): about a second.
+    // Filters that pass less than one candidate in eight million would take hours for a full
+    // store, so such a run cannot finish in any sense a user cares about.
+    int64_t Kroku_Bez_Tipu = 50'000'000;
 };
 
 struct Zpetna_Volani_Generatoru {
@@ -100,9 +105,6 @@ float Seminko_Tiketu(uint64_t seminko_behu, int tiket, uint32_t obnoveni);
 // those numbers cannot satisfy. The Czech reason, or empty when the run may start. Reversed
 // bounds of the sum and the range count as swapped, as the window swaps them.
 QString Kontrola_Zadani(const Zadani_Generatoru& zadani);
-
-// Draws a run may make without a tip before it reports itself stuck (Uvaznuti).
-inline constexpr int64_t Kroku_Bez_Tipu = 4'000'000;
 
 // Generuj: fills the store (cleared first) and tells how the run ended. Tips made before a stop or
 // a fault stay in the store, and its header counts them; a ticket given up leaves no column behind.

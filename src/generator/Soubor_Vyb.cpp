@@ -85,7 +85,8 @@ QString Chyba_Zaznamu_Vyb(const Zaznam_Vyb& z) {
     if (!Cisla_Plati(z.Cisla, z.Pocet_Cisel) || !Cisla_Plati(z.Vynechat, z.Pocet_Vynechat) ||
         !Cisla_Plati(tutovky, z.Pocet_Tutovek))
         return u"obsahuje číslo mimo rozsah 1 - 49"_qs;
-    const int opakovane = Opakovane_Cislo({{z.Cisla.Prvky.data(), z.Pocet_Cisel}, {z.Tutovky.Prvky.data(), z.Pocet_Tutovek}});
+    const int opakovane =
+        Opakovane_Cislo({{z.Cisla.Prvky.data(), z.Pocet_Cisel}, {z.Tutovky.Prvky.data(), z.Pocet_Tutovek}});
     if (const int vynechane = Opakovane_Cislo({{z.Vynechat.Prvky.data(), z.Pocet_Vynechat}}); opakovane || vynechane)
         return u"obsahuje číslo %1 dvakrát"_qs.arg(opakovane ? opakovane : vynechane);
     return {};

@@ -2,12 +2,12 @@
 
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "core/Tabulka_Textu.h"
-#include "core/Vb.h"
 #include "app/frmMDITombi.h"
 #include "app/frmMDITombi_Stav.h"
 #include "app/frmOvladani.h"
 #include "archive/frmVypisTahu.h"
+#include "core/Tabulka_Textu.h"
+#include "core/Vb.h"
 #include "generator/Generator.h"
 #include "generator/frmGeneruj_Omezeni.h"
 #include "generator/frmGeneruj_Vyber.h"
@@ -27,11 +27,10 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
-
 #include <algorithm>
 
-using modNastaveni_Ovladani::Prvek;
 using modNastaveni_Ovladani::Cele_Cislo;
+using modNastaveni_Ovladani::Prvek;
 
 namespace {
 
@@ -42,7 +41,8 @@ const modNastaveni_Ovladani::Texty_Okna Okno{u"frmGeneruj"_qs};
 frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
     : QWidget(parent), txtPoc_Tipu(Okno.Pojmenuj(new QLineEdit(this), u"txtPoc_Tipu"_qs)),
       txtPoc_Tiketu(Okno.Pojmenuj(new QLineEdit(this), u"txtPoc_Tiketu"_qs)),
-      lblVklad(Okno.Pojmenuj(new QLabel(this), u"lblVklad"_qs)), chkSance(Okno.Pojmenuj(new QCheckBox(this), u"chkSance"_qs)),
+      lblVklad(Okno.Pojmenuj(new QLabel(this), u"lblVklad"_qs)),
+      chkSance(Okno.Pojmenuj(new QCheckBox(this), u"chkSance"_qs)),
       txtSeminko(Okno.Pojmenuj(new QLineEdit(this), u"txtSeminko"_qs)),
       txtVlastni_Seminko(Okno.Pojmenuj(new QLineEdit(this), u"txtVlastni_Seminko"_qs)),
       lblTiket(Okno.Pojmenuj(new QLabel(this), u"lblTiket"_qs)), lblTip(Okno.Pojmenuj(new QLabel(this), u"lblTip"_qs)),
@@ -52,8 +52,8 @@ frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
       chkSpojvatRozpisy(Okno.Pojmenuj(new QCheckBox(this), u"chkSpojvatRozpisy"_qs)),
       Command1(Okno.Pojmenuj(new QPushButton(this), u"Command1"_qs)),
       cmdUvolnit_Seznam_Sazejicich(Okno.Pojmenuj(new QPushButton(this), u"cmdUvolnit_Seznam_Sazejicich"_qs)),
-      cmdOK(Okno.Pojmenuj(new QPushButton(this), u"cmdOK"_qs)), cmdZrusit(Okno.Pojmenuj(new QPushButton(this), u"cmdZrusit"_qs)),
-      Ram(ram), Sezeni(ram.Sezeni()) {
+      cmdOK(Okno.Pojmenuj(new QPushButton(this), u"cmdOK"_qs)),
+      cmdZrusit(Okno.Pojmenuj(new QPushButton(this), u"cmdZrusit"_qs)), Ram(ram), Sezeni(ram.Sezeni()) {
     setObjectName(Okno.Jmeno);
     setWindowTitle(Tabulka_Textu::Programu().Text(Okno.Jmeno));
     Sezeni.Formular_Otevren_Generuj = true;
@@ -367,7 +367,7 @@ void frmGeneruj::Generuj() {
         volani.Zprava = [this](const QString& zprava) { Sezeni.Sluzby->Zprava(zprava); };
         // A stuck run goes on until "Konec"; the progress area says why no tip comes.
         volani.Uvaznuti = [this](const QString& zprava) {
-            lblStav_Behu->setText(zprava);
+            lblStav_Behu->setText(zprava + u" Volte \"Konec\"."_qs);
             return true;
         };
         vysledek = ::Generuj(z, Sezeni.Tipy.Soubor_Tipu, volani);
@@ -397,8 +397,8 @@ void frmGeneruj::Predej_Tipy() {
     // The stake of what was made, Šance included when ticked; the tip list's evaluation reads it.
     const Nastaveni_Zaznam& n = Sezeni.Nastaveni;
     const int hotovo = Sezeni.Generator.Pocet_Tipu_Hotovo;
-    const Vb::Mena sance = Vb::Mena::Z_Korun(
-        chkSance->isChecked() ? double(Tiketu_Pro_Tipy(hotovo)) * n.Cena_Sance : 0.0);
+    const Vb::Mena sance =
+        Vb::Mena::Z_Korun(chkSance->isChecked() ? double(Tiketu_Pro_Tipy(hotovo)) * n.Cena_Sance : 0.0);
     const Vb::Mena vklad = Vb::Mena::Z_Korun(double(hotovo) * n.Cena_Jednoho_Tipu) + sance;
     frmMDITombi& ram = Ram;
     pTikety& tikety = Sezeni.Tikety;

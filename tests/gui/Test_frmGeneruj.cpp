@@ -9,6 +9,7 @@
 #include "generator/frmGeneruj_Vyber.h"
 #include "tips/frmVypisTipu.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -16,7 +17,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QApplication>
 #include <QTest>
 #include <QTimer>
 
@@ -164,7 +164,8 @@ private slots:
         generator->Vyber->txtTutovka[0]->setText(u"5"_qs);
         generator->Vyber->txtTutovka[1]->setText(u"5"_qs);
         QTest::mouseClick(generator->cmdOK, Qt::LeftButton);
-        QVERIFY(prostredi.Oznameni().contains(u"Tutovka 5 je zadána dvakrát: tip nesmí obsahovat stejné číslo dvakrát."_qs));
+        QVERIFY(prostredi.Oznameni().contains(
+            u"Tutovka 5 je zadána dvakrát: tip nesmí obsahovat stejné číslo dvakrát."_qs));
         QVERIFY(!generator->Bezi());
         generator->Vyber->txtTutovka[0]->clear();
         generator->Vyber->txtTutovka[1]->clear();

@@ -7,7 +7,6 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
-
 #include <memory>
 
 namespace {
@@ -39,7 +38,8 @@ class Test_Cli_Generovani final : public QObject {
 
 private slots:
     void Hlavicka_Je_Pocet_Vyrobenych() {
-        const Beh b = Generuj(u"a.tip"_qs, {u"--tipy"_qs, u"9500"_qs, u"--tikety"_qs, u"1"_qs, u"--seminko"_qs, u"1"_qs});
+        const Beh b =
+            Generuj(u"a.tip"_qs, {u"--tipy"_qs, u"9500"_qs, u"--tikety"_qs, u"1"_qs, u"--seminko"_qs, u"1"_qs});
         QCOMPARE(b.Kod, 0);
         QCOMPARE(b.Radky, QStringList{u"tikety 1 tipy 9500 hotovo 10 seminko 1"_qs});
         const auto z = std::make_unique<Zaznam_Tipu>(Cti_Zaznam_Tipu(Obsah_Souboru(Adresar.filePath(u"a.tip"_qs))));
@@ -50,17 +50,20 @@ private slots:
         QTest::addColumn<QStringList>("volby");
         QTest::addColumn<int>("kod");
         QTest::addColumn<QString>("zprava");
-        QTest::newRow("tutovky 5,5") << QStringList{u"--tutovky"_qs, u"5,5"_qs} << 2
-                                     << u"Volba --tutovky opakuje číslo 5: tip nesmí obsahovat stejné číslo dvakrát."_qs;
-        QTest::newRow("pouzit 3,9,3") << QStringList{u"--pouzit"_qs, u"3,9,3,4,5,6,7,8,10,11"_qs} << 2
-                                      << u"Volba --pouzit opakuje číslo 3: tip nesmí obsahovat stejné číslo dvakrát."_qs;
+        QTest::newRow("tutovky 5,5")
+            << QStringList{u"--tutovky"_qs, u"5,5"_qs} << 2
+            << u"Volba --tutovky opakuje číslo 5: tip nesmí obsahovat stejné číslo dvakrát."_qs;
+        QTest::newRow("pouzit 3,9,3")
+            << QStringList{u"--pouzit"_qs, u"3,9,3,4,5,6,7,8,10,11"_qs} << 2
+            << u"Volba --pouzit opakuje číslo 3: tip nesmí obsahovat stejné číslo dvakrát."_qs;
         for (const char* cas : {"inf", "nan", "1e300", "-1"})
             QTest::newRow(cas) << QStringList{u"--cas"_qs, QString::fromLatin1(cas)} << 2
                                << u"Chybná hodnota volby --cas."_qs;
         QTest::newRow("rozsah 1,5") << QStringList{u"--rozsah"_qs, u"1,5"_qs} << 1
                                     << u"Rozsah čísel 1 - 5 je užší než 6 čísel, která tip potřebuje."_qs;
-        QTest::newRow("suma 290,280") << QStringList{u"--suma"_qs, u"290,280"_qs} << 1
-                                      << u"Součet čísel tipu může být jen od 21 do 279; suma od 280 do 290 (bez krajních hodnot) nepropustí žádný tip."_qs;
+        QTest::newRow("suma 290,280")
+            << QStringList{u"--suma"_qs, u"290,280"_qs} << 1
+            << u"Součet čísel tipu může být jen od 21 do 279; suma od 280 do 290 (bez krajních hodnot) nepropustí žádný tip."_qs;
         QTest::newRow("sudlich 6,6,0") << QStringList{u"--sudlich"_qs, u"6,6,0"_qs} << 1
                                        << u"Poměr sudých a lichých 6 / 6 s rozptylem 0 nedává tip o šesti číslech."_qs;
         QTest::newRow("neopakovat v 15 cislech")

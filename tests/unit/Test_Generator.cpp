@@ -5,7 +5,6 @@
 #include "generator/modOkruh_Cisel.h"
 
 #include <QTest>
-
 #include <functional>
 #include <memory>
 #include <set>
@@ -221,14 +220,30 @@ private slots:
             QString Zprava;
         };
         const std::vector<Pripad> pripady{
-            {[](Zadani_Generatoru& z) { z.Check1[9] = true, z.Rozsah = {1, 5}; },
+            {[](Zadani_Generatoru& z) {
+                 z.Check1[9] = true, z.Rozsah = {1, 5};
+             },
              u"Rozsah čísel 1 - 5 je užší než 6 čísel, která tip potřebuje."_qs},
-            {[](Zadani_Generatoru& z) { z.Check1[9] = true, z.Rozsah = {30, 26}, z.Tutovky = {1, 2}; }, QString()},
-            {[](Zadani_Generatoru& z) { z.Check1[8] = true, z.Suma = {300, 280}; },
+            {[](Zadani_Generatoru& z) {
+                 z.Check1[9] = true, z.Rozsah = {30, 26}, z.Tutovky = {1, 2};
+             },
+             QString()},
+            {[](Zadani_Generatoru& z) {
+                 z.Check1[8] = true, z.Suma = {300, 280};
+             },
              u"Součet čísel tipu může být jen od 21 do 279; suma od 280 do 300 (bez krajních hodnot) nepropustí žádný tip."_qs},
-            {[](Zadani_Generatoru& z) { z.Check1[8] = true, z.Suma = {500, 10}; }, QString()},
-            {[](Zadani_Generatoru& z) { z.Check1[8] = true, z.Suma = {20, 40}; }, QString()},
-            {[](Zadani_Generatoru& z) { z.Check1[8] = true, z.Suma = {21, 22}; }, u"Součet"_qs},
+            {[](Zadani_Generatoru& z) {
+                 z.Check1[8] = true, z.Suma = {500, 10};
+             },
+             QString()},
+            {[](Zadani_Generatoru& z) {
+                 z.Check1[8] = true, z.Suma = {20, 40};
+             },
+             QString()},
+            {[](Zadani_Generatoru& z) {
+                 z.Check1[8] = true, z.Suma = {21, 22};
+             },
+             u"Součet"_qs},
             {[](Zadani_Generatoru& z) { z.Check1[5] = true, z.Sudych = 6, z.Lichych = 6, z.Rozptyl = 0; },
              u"Poměr sudých a lichých 6 / 6 s rozptylem 0 nedává tip o šesti číslech."_qs},
             {[](Zadani_Generatoru& z) { z.Check1[5] = true, z.Sudych = 6, z.Lichych = 0, z.Rozptyl = 0; }, QString()},
@@ -240,9 +255,13 @@ private slots:
                      z.Okruh_Cisel.push_back(x);
              },
              u"\"Neopakovat čísla v tiketu\" potřebuje 48 různých čísel, k losování je jich jen 15."_qs},
-            {[](Zadani_Generatoru& z) { z.Vyber = Vyber_Okruhu::Pouzit_Vybrana, z.Okruh_Cisel = {3, 3, 3, 3, 3, 3, 4}; },
+            {[](Zadani_Generatoru& z) {
+                 z.Vyber = Vyber_Okruhu::Pouzit_Vybrana, z.Okruh_Cisel = {3, 3, 3, 3, 3, 3, 4};
+             },
              u"Omezení nechávají k losování jen 2 čísel, tip jich potřebuje 6."_qs},
-            {[](Zadani_Generatoru& z) { z.Tutovky = {5, 5}; },
+            {[](Zadani_Generatoru& z) {
+                 z.Tutovky = {5, 5};
+             },
              u"Tutovka 5 je zadána dvakrát: tip nesmí obsahovat stejné číslo dvakrát."_qs},
             {[](Zadani_Generatoru& z) { z.Pocet_Tipu = -5; }, u"Počet tipů musí být od 1 do 9500."_qs},
         };
@@ -274,6 +293,7 @@ private slots:
         z.Check1[5] = z.Check1[8] = true;
         z.Sudych = 6, z.Lichych = 0, z.Rozptyl = 0;
         z.Suma = {150, 152};
+        z.Kroku_Bez_Tipu = 2'000'000;
         QVERIFY(Kontrola_Zadani(z).isEmpty());
         Zaznam_Tipu s;
         QStringList zpravy;

@@ -4,7 +4,6 @@
 #include "tips/Vypis_Tipu.h"
 
 #include <QTest>
-
 #include <memory>
 
 namespace {
