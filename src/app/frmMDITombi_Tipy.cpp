@@ -6,6 +6,7 @@
 #include "app/frmMDITombi.h"
 #include "data/Nedavne_Soubory.h"
 #include "data/Soubory.h"
+#include "tips/Vyhodnoceni.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -17,9 +18,12 @@ namespace {
 const QString Filtr_Tipu = u"Soubor tipů (*.tip)|*.tip"_qs;
 
 void Po_Nacteni(frmMDITombi& ram, const QString& cesta) {
-    const Stav_Tipu& tipy = ram.Sezeni().Tipy;
+    Stav_Tipu& tipy = ram.Sezeni().Tipy;
+    // A header may count otherwise than the tips the file holds (a run stopped early, a damaged
+    // file): the list and the stake go by the tips present.
+    tipy.Pocet_Tipu_Aktivni = int16_t(Pocet_Tipu_V_Souboru(tipy.Soubor_Tipu));
     ram.Pridej_Nedavny(Druh_Tipy, Jmeno_Bez_Adresare(cesta));
-    ram.Sezeni().Sluzby->Nastav_Soubor_Tipu(QString::number(tipy.Soubor_Tipu.Pocet_Tipu));
+    ram.Sezeni().Sluzby->Nastav_Soubor_Tipu(QString::number(tipy.Pocet_Tipu_Aktivni));
     emit ram.Tipy_Otevreny();
 }
 

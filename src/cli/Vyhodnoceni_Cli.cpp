@@ -1,9 +1,9 @@
 // tombi-cli evaluate: the four evaluations of the tip list's third panel, and the comparison of a
 // tip file with files drawn by chance, printed as counts, the lines of the win list and money.
 
+#include "cli/Cli.h"
 #include "core/Random.h"
 #include "core/Vb.h"
-#include "cli/Cli.h"
 #include "data/Archiv_Tahu.h"
 #include "data/Nastaveni.h"
 #include "data/Soubor_Tipu.h"
@@ -13,8 +13,8 @@
 
 #include <QFileInfo>
 #include <QRandomGenerator>
-
 #include <algorithm>
+#include <cstdio>
 #include <memory>
 
 namespace {
@@ -61,6 +61,24 @@ QString Los(const QString& jmeno, const Radek_Tahu& los) {
 
 QString Cele(double x) {
     return Vb::Format(x, u"0");
+}
+
+// The win list goes out through one reused buffer: a run against the whole archive writes some
+// 600,000 lines.
+void Vypis_Vyhry(const Vysledek_Vyhodnoceni& vysledek) {
+    constexpr std::size_t Davka = std::size_t(1) << 16;
+    std::string buffer;
+    buffer.reserve(Davka + 256);
+    const auto vyprazdni = [&] {
+        std::fwrite(buffer.data(), 1, buffer.size(), stdout);
+        buffer.clear();
+    };
+    Pro_Kazdou_Vyhru(vysledek, [&](const Misto_Vyhry& m) {
+        Pripis_Radek_Vyhry(m, buffer);
+        if (buffer.size() >= Davka)
+            vyprazdni();
+    });
+    vyprazdni();
 }
 
 struct Vstup {
@@ -157,6 +175,10 @@ int Vyhodnoceni(const QStringList& args) {
     }
     if (const auto chyba = Rozeber_Vstup(a, v))
         return Spatne_Pouziti(*chyba);
+    // A drawn row holds each number once; a repeated one would count its hits twice.
+    for (const Radek_Tahu& radek : v.Radky)
+        if (Opakovane_Cislo(radek))
+            return Chyba(Text_Stejna_Cisla);
     bool spatne_seminko = false;
     const std::optional<uint64_t> seminko = Seminko_Volby(a, spatne_seminko);
     if (spatne_seminko || (seminko && v.Typ != Druh::Nahodny_Los && v.Typ != Druh::Srovnani))
@@ -200,7 +222,7 @@ int Vyhodnoceni(const QStringList& args) {
     if (v.Typ == Druh::Srovnani) {
         const uint64_t s = seminko.value_or(QRandomGenerator::system()->generate64());
         const Vysledek_Srovnani vysledek =
-            Srovnej_S_Nahodou(soubor, soubor.Pocet_Tipu, rozsah, ceny, v.Pocet_Souboru, s);
+            Srovnej_S_Nahodou(soubor, Pocet_Tipu_V_Souboru(soubor), rozsah, ceny, v.Pocet_Souboru, s);
         const auto radek = [](const QString& jmeno, const auto& hodnota) {
             QString text = jmeno;
             for (std::size_t t = 1; t < 6; ++t)
@@ -216,12 +238,17 @@ int Vyhodnoceni(const QStringList& args) {
         Vypis(radek(u"p95"_qs, [&](std::size_t t) { return vysledek.Vyhry_Nahody[t].Devadesat; }) + u" vyhra "_qs +
               Cele(vysledek.Penize_Nahody.Devadesat));
         Vypis(u"seminko "_qs + QString::number(s));
-        Vypis(vysledek.Veta);
+        Vypis(u"poradi %1 z %2 percentil %3"_qs.arg(vysledek.Poradi())
+                  .arg(vysledek.Pocet_Souboru + 1)
+                  .arg(Cele(vysledek.Percentil())));
+        for (const QString& veta : vysledek.Veta)
+            Vypis(veta);
         return Uspech;
     }
 
     Vysledek_Vyhodnoceni vysledek;
-    double vklad = double(soubor.Pocet_Tipu) * cena_tipu;
+    // The stake of the tips the file holds: its header may say otherwise.
+    double vklad = double(Pocet_Tipu_V_Souboru(soubor)) * cena_tipu;
     switch (v.Typ) {
     case Druh::Nahodny_Los: {
         Random nahoda;
@@ -257,13 +284,13 @@ int Vyhodnoceni(const QStringList& args) {
         Vyh_Soubor_V_Tazich(soubor, rozsah, vysledek);
         vklad *= std::max(n1, n2);
         break;
-    case Druh::Srovnani: break;
+    case Druh::Srovnani:
+        break;
     }
 
     Vypis(Pocty(u"tah1"_qs, vysledek.Vyhry_1Tah));
     Vypis(Pocty(u"tah2"_qs, vysledek.Vyhry_2Tah));
-    for (const Misto_Vyhry& m : Mista_Vyher(vysledek))
-        Vypis(Radek_Vyhry(m));
+    Vypis_Vyhry(vysledek);
     if (ceny_volby) {
         const double vyhra = Soucet_Tahu(vysledek.Vyhry_1Tah, ceny[0]) + Soucet_Tahu(vysledek.Vyhry_2Tah, ceny[1]);
         const std::optional<double> zisk = Zisk_Procent(vyhra, vklad);

@@ -1,5 +1,6 @@
 #include "tips/Srovnani.h"
 
+#include "core/Vb.h"
 #include "generator/Generator.h"
 
 #include <algorithm>
@@ -29,12 +30,28 @@ Rozlozeni Rozloz(std::vector<double> hodnoty) {
     return r;
 }
 
-QString Veta(double penize, const Rozlozeni& nahoda) {
-    if (penize > nahoda.Devadesat)
-        return QStringLiteral("Soubor vyhrál víc než 95 % náhodných souborů: filtry tu pomohly.");
-    if (penize < nahoda.Pet)
-        return QStringLiteral("Soubor vyhrál méně než 95 % náhodných souborů: filtry tu uškodily.");
-    return QStringLiteral("Soubor dopadl jako náhodné soubory: od náhody se neliší.");
+// Money in crowns; a count whole for the file and with one decimal for the mean of the random files.
+QString Cislo(double x, bool penize, bool prumer) {
+    if (penize)
+        return Vb::Format(x, u"### ### ### ##0").trimmed() + u" Kč"_qs;
+    return Vb::Format(x, prumer ? u"### ### ##0.0" : u"### ### ##0").trimmed();
+}
+
+QStringList Veta(const Vysledek_Srovnani& s) {
+    const QString co = s.Podle_Penez ? u"Výhra souboru"_qs : u"Počet výher souboru"_qs;
+    return {
+        co + u": "_qs + Cislo(s.Hodnota_Souboru, s.Podle_Penez, false) + u", průměr náhodných souborů: "_qs +
+            Cislo(s.Prumer_Nahody, s.Podle_Penez, true) + u"."_qs,
+        u"Soubor dopadl lépe než %1 % náhodných souborů (pořadí %2 z %3)."_qs.arg(Vb::Format(s.Percentil(), u"##0"))
+            .arg(s.Poradi())
+            .arg(s.Pocet_Souboru + 1),
+        u"V losování má každý tip stejnou naději na výhru, s filtry i bez nich: pořadí souboru je dílem náhody "
+        u"v těchto tazích, ne důkazem, že filtry pomáhají. Je-li soubor sestaven z menšího počtu čísel, kolísá víc "
+        u"než náhodné soubory, a tak bývá častěji nahoře i dole."_qs,
+        u"Pozor: čísla souboru mohla být vybrána podle týchž tahů, na kterých se teď zkouší; pak srovnání "
+        u"vychází v jeho prospěch."_qs,
+        u"Minulé tahy nemění šanci příštího tahu."_qs,
+    };
 }
 
 } // namespace
@@ -75,21 +92,26 @@ Vysledek_Srovnani Srovnej_S_Nahodou(const Zaznam_Tipu& tipy, int pocet_tipu, con
     for (std::size_t t = 1; t < 6; ++t)
         s.Vyhry_Nahody[t] = Rozloz(vyhry[t]);
     s.Penize_Nahody = Rozloz(penize);
-    // With no prizes set the verdict weighs the number of wins instead of the money.
-    const bool podle_penez = std::any_of(ceny.begin(), ceny.end(), [](const Ceny_Tahu& c) {
+    // With no prizes set the file is ranked by the number of its wins instead of the money.
+    s.Podle_Penez = std::any_of(ceny.begin(), ceny.end(), [](const Ceny_Tahu& c) {
         return std::any_of(c.begin(), c.end(), [](double cena) { return cena != 0; });
     });
-    if (podle_penez) {
-        s.Veta = Veta(s.Penize_Souboru, s.Penize_Nahody);
-    } else {
-        std::vector<double> pocty(std::size_t(s.Pocet_Souboru), 0.0);
+    std::vector<double> hodnoty = penize;
+    s.Hodnota_Souboru = s.Penize_Souboru;
+    if (!s.Podle_Penez) {
+        hodnoty.assign(std::size_t(s.Pocet_Souboru), 0.0);
         for (std::size_t t = 1; t < 6; ++t)
-            for (std::size_t i = 0; i < pocty.size(); ++i)
-                pocty[i] += vyhry[t][i];
-        const double soubor = double(std::accumulate(s.Vyhry_Souboru.begin(), s.Vyhry_Souboru.end(), uint64_t(0)));
-        s.Veta = Veta(soubor, Rozloz(pocty));
+            for (std::size_t i = 0; i < hodnoty.size(); ++i)
+                hodnoty[i] += vyhry[t][i];
+        s.Hodnota_Souboru = double(std::accumulate(s.Vyhry_Souboru.begin(), s.Vyhry_Souboru.end(), uint64_t(0)));
     }
-    if (s.Pocet_Souboru == 0)
-        s.Veta.clear();
+    for (const double h : hodnoty) {
+        s.Lepsich += h > s.Hodnota_Souboru ? 1 : 0;
+        s.Stejnych += h == s.Hodnota_Souboru ? 1 : 0;
+        s.Horsich += h < s.Hodnota_Souboru ? 1 : 0;
+    }
+    s.Prumer_Nahody = Rozloz(hodnoty).Prumer;
+    if (s.Pocet_Souboru > 0)
+        s.Veta = Veta(s);
     return s;
 }

@@ -13,14 +13,42 @@ void Vysledek_Vyhodnoceni::Vycisti() {
 
 bool Zarad_Vyhru(Vyhry& vyhry, int h, int s, int& poradi) {
     switch (h) {
-    case 3: poradi = 5; break;
-    case 4: poradi = 4; break;
-    case 5: poradi = s == 0 ? 3 : 2; break;
-    case 6: poradi = 1; break;
-    default: return false;
+    case 3:
+        poradi = 5;
+        break;
+    case 4:
+        poradi = 4;
+        break;
+    case 5:
+        poradi = s == 0 ? 3 : 2;
+        break;
+    case 6:
+        poradi = 1;
+        break;
+    default:
+        return false;
     }
     ++vyhry[std::size_t(poradi)];
     return true;
+}
+
+int Pocet_Tipu_V_Souboru(const Zaznam_Tipu& tipy) {
+    int pocet = 0;
+    for (int i = 1; i <= std::min<int>(tipy.Pocet_Tiketu, Max_Tiketu); ++i)
+        for (int c = 1; c <= Sloupcu_Tiketu; ++c) {
+            if (tipy.Tikety[i].Cisla[c][1] == 0)
+                return pocet;
+            ++pocet;
+        }
+    return pocet;
+}
+
+std::optional<int> Opakovane_Cislo(const Radek_Tahu& radek) {
+    for (std::size_t i = 0; i < radek.size(); ++i)
+        for (std::size_t j = i + 1; j < radek.size(); ++j)
+            if (radek[i] != 0 && radek[i] == radek[j])
+                return radek[i];
+    return std::nullopt;
 }
 
 int Pocet_Cisel(const Radek_Tahu& radek) {
@@ -102,10 +130,11 @@ void Radek_Proti_Tahu(const Radek_Tahu& boxy, const Tah& tah, int& h, int& s) {
                 break;
             }
         }
-        if (konec == 6 && boxy[6] == tah[p])
+        if (konec == 6 && boxy[6] != 0 && boxy[6] == tah[p])
             ++s;
     }
-    if (boxy[konec] == tah[7])
+    // An empty box is no number: against a draw without its supplementary number (0) it is no hit.
+    if (boxy[konec] != 0 && boxy[konec] == tah[7])
         ++s;
 }
 
@@ -120,7 +149,7 @@ void Tip_Proti_Tahu(const Tip& tip, const Tah& tah, int& h, int& s) {
             zasah = tah[p] == t;
         if (zasah)
             ++h;
-        else if (t == tah[7])
+        else if (t != 0 && t == tah[7])
             ++s;
     }
 }
@@ -153,7 +182,8 @@ struct Tipy_Souboru {
 #if defined(__GNUC__) && defined(__x86_64__) && !defined(__clang__)
 [[gnu::target_clones("popcnt", "default")]]
 #endif
-std::size_t Kandidati(const std::vector<uint64_t>& masky, uint64_t hlavni, std::vector<uint32_t>& kandidati) {
+std::size_t
+Kandidati(const std::vector<uint64_t>& masky, uint64_t hlavni, std::vector<uint32_t>& kandidati) {
     std::size_t pocet = 0;
     for (std::size_t j = 0; j < masky.size(); ++j) {
         kandidati[pocet] = uint32_t(j);

@@ -11,9 +11,9 @@
 #include "data/Soubor_Tipu.h"
 
 #include <QString>
-
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 // Wins by tier: element t (1..5) counts the wins of tier t, element 0 is unused. 64 bits never wrap.
@@ -57,8 +57,15 @@ struct Vysledek_Vyhodnoceni {
 // as it stood (the caller's tier variable). True when a tier was placed.
 bool Zarad_Vyhru(Vyhry& vyhry, int h, int s, int& poradi);
 
+// The tips the store holds, up to the first empty column, whatever its header says: the stake is
+// paid for these.
+int Pocet_Tipu_V_Souboru(const Zaznam_Tipu& tipy);
+
 // A row of seven boxes, the seventh the supplementary number; 0 is an empty box.
 using Radek_Tahu = std::array<int, 7>;
+inline const QString Text_Stejna_Cisla = QStringLiteral("Pozor, zadána stejná čísla !");
+// A number that stands in two boxes of the row, if any: a draw never holds a number twice.
+std::optional<int> Opakovane_Cislo(const Radek_Tahu& radek);
 // Spocti_Cisla_Tahu for one row: the filled boxes of all seven.
 int Pocet_Cisel(const Radek_Tahu& radek);
 // Ulozena_Cisla_1Tah / _2Tah with Jsou_Cisla_1Tah / _2Tah: the boxes' numbers kept when an

@@ -2,21 +2,41 @@
 
 #include "core/Vb.h"
 
-#include <limits>
-
 std::vector<Misto_Vyhry> Mista_Vyher(const Vysledek_Vyhodnoceni& vysledek) {
     std::vector<Misto_Vyhry> mista;
     mista.reserve(vysledek.Vyherni_Zaznamy.size());
-    for (const Vyherni_Zaznam& z : vysledek.Vyherni_Zaznamy)
-        for (int c = 1; c <= Sloupcu_Tiketu; ++c)
-            if (z.Sloupce[c].Poradi > 0)
-                mista.push_back({z.Cislo_Tiketu, c, z.Sloupce[c].Tah, z.Sloupce[c].Poradi});
+    Pro_Kazdou_Vyhru(vysledek, [&](const Misto_Vyhry& m) { mista.push_back(m); });
     return mista;
 }
 
 QString Radek_Vyhry(const Misto_Vyhry& m) {
     return Vb::Format(m.Cislo_Tiketu, u" 000 000     ") + Vb::Format(m.Sloupec, u"##00        ") +
            QString::number(m.Tah) + u" / "_qs + QString::number(m.Poradi);
+}
+
+void Pripis_Radek_Vyhry(const Misto_Vyhry& m, std::string& cil) {
+    // Ticket numbers of six digits at most and one-digit draws and tiers are the lines of every
+    // file the program makes; anything else takes the general format.
+    if (m.Cislo_Tiketu < 0 || m.Cislo_Tiketu > 999999 || m.Sloupec < 0 || m.Sloupec > 99 || m.Tah < 0 || m.Tah > 9 ||
+        m.Poradi < 0 || m.Poradi > 9) {
+        cil += Radek_Vyhry(m).toStdString();
+        cil += '\n';
+        return;
+    }
+    char r[] = " 000 000     00        0 / 0\n";
+    const auto cislice = [](int n) { return char('0' + n % 10); };
+    const int t = m.Cislo_Tiketu;
+    r[1] = cislice(t / 100000);
+    r[2] = cislice(t / 10000);
+    r[3] = cislice(t / 1000);
+    r[5] = cislice(t / 100);
+    r[6] = cislice(t / 10);
+    r[7] = cislice(t);
+    r[13] = cislice(m.Sloupec / 10);
+    r[14] = cislice(m.Sloupec);
+    r[23] = cislice(m.Tah);
+    r[27] = cislice(m.Poradi);
+    cil.append(r, sizeof r - 1);
 }
 
 std::array<Ceny_Tahu, 2> Ceny_Dne(const std::array<Vb::Mena, 10>& ceny) {
@@ -34,21 +54,6 @@ double Soucet_Tahu(const Vyhry& vyhry, const Ceny_Tahu& ceny) {
         if (vyhry[i + 1] > 0)
             soucet += double(vyhry[i + 1]) * ceny[i];
     return soucet;
-}
-
-std::optional<int32_t> Soucet_Tahu_32(const Vyhry& vyhry, const Ceny_Tahu& ceny) {
-    int64_t soucet = 0;
-    for (std::size_t i = 0; i < 5; ++i) {
-        if (vyhry[i + 1] == 0)
-            continue;
-        const double cast = double(vyhry[i + 1]) * double(Vb::Zaokrouhli(ceny[i]));
-        if (cast > double(std::numeric_limits<int32_t>::max()) || cast < double(std::numeric_limits<int32_t>::min()))
-            return std::nullopt;
-        soucet += int64_t(cast);
-        if (soucet > std::numeric_limits<int32_t>::max() || soucet < std::numeric_limits<int32_t>::min())
-            return std::nullopt;
-    }
-    return int32_t(soucet);
 }
 
 std::optional<double> Zisk_Procent(double vyhra, double vklad) {

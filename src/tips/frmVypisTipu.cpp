@@ -1,31 +1,33 @@
 #include "tips/frmVypisTipu.h"
 
-#include "core/Dialogy.h"
-#include "core/Hodiny.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "core/Tabulka_Textu.h"
-#include "core/Vb.h"
-#include "app/frmMDITombi.h"
 #include "app/frmKresleni.h"
+#include "app/frmMDITombi.h"
 #include "app/frmMDITombi_Stav.h"
 #include "app/frmOvladani.h"
 #include "app/frmSloupec_Tiketu.h"
 #include "app/modTombi.h"
+#include "archive/frmVypisTahu.h"
+#include "core/Dialogy.h"
+#include "core/Hodiny.h"
+#include "core/Tabulka_Textu.h"
+#include "core/Vb.h"
 #include "core/pTikety.h"
 #include "data/Nedavne_Soubory.h"
 #include "data/Soubory.h"
-#include "archive/frmVypisTahu.h"
 #include "generator/frmGeneruj.h"
+#include "tips/Analyza_Tipu.h"
+#include "tips/Vyhodnoceni.h"
 #include "tips/Vypis_Tipu.h"
 #include "tips/Vypis_Vyher.h"
-#include "tips/Analyza_Tipu.h"
 #include "tips/frmVypisTipu_Analyza.h"
 #include "tips/frmVypisTipu_Vyber.h"
 #include "tips/frmVypisTipu_Vyhodnoceni.h"
 #include "tips/frmVypisTipu_Vyhry.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -35,9 +37,9 @@
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QCoreApplication>
 #include <QStackedLayout>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -66,22 +68,26 @@ QList<int> Cisla_Radku(const QString& radek) {
 } // namespace
 
 frmVypisTipu::frmVypisTipu(frmMDITombi& ram, bool vlastni, QWidget* parent)
-    : QWidget(parent), List1(Okno.Pojmenuj(new QListWidget(this), u"List1"_qs)), List2(Okno.Pojmenuj(new QListWidget(this), u"List2"_qs)),
+    : QWidget(parent), List1(Okno.Pojmenuj(new QListWidget(this), u"List1"_qs)),
+      List2(Okno.Pojmenuj(new QListWidget(this), u"List2"_qs)),
       lstFIX(Okno.Pojmenuj(new QListWidget(this), u"lstFIX"_qs)),
-      picSloupec_Vypis_Tipu(Okno.Pojmenuj(new frmSloupec_Tiketu(ram.Sezeni().Nastaveni, this), u"picSloupec_Vypis_Tipu"_qs)),
-      txtSoubor_Tipu(Okno.Pojmenuj(new QLineEdit(this), u"txtSoubor_Tipu"_qs)), Label9(Okno.Pojmenuj(new QLabel(this), u"Label9"_qs)),
+      picSloupec_Vypis_Tipu(
+          Okno.Pojmenuj(new frmSloupec_Tiketu(ram.Sezeni().Nastaveni, this), u"picSloupec_Vypis_Tipu"_qs)),
+      txtSoubor_Tipu(Okno.Pojmenuj(new QLineEdit(this), u"txtSoubor_Tipu"_qs)),
+      Label9(Okno.Pojmenuj(new QLabel(this), u"Label9"_qs)),
       cmdUlozTipy(Okno.Pojmenuj(new QPushButton(this), u"cmdUlozTipy"_qs)),
       cmdPridej_Tipy(Okno.Pojmenuj(new QPushButton(this), u"cmdPridej_Tipy"_qs)),
       cmdPouzita_Cisla(Okno.Pojmenuj(new QPushButton(this), u"cmdPouzita_Cisla"_qs)),
-      cmdZrusTip(Okno.Pojmenuj(new QPushButton(this), u"cmdZrusTip"_qs)), cmdZpet(Okno.Pojmenuj(new QPushButton(this), u"cmdZpet"_qs)),
+      cmdZrusTip(Okno.Pojmenuj(new QPushButton(this), u"cmdZrusTip"_qs)),
+      cmdZpet(Okno.Pojmenuj(new QPushButton(this), u"cmdZpet"_qs)),
       txtOldCislo(Okno.Pojmenuj(new QLineEdit(this), u"txtOldCislo"_qs)),
       txtNewCislo(Okno.Pojmenuj(new QLineEdit(this), u"txtNewCislo"_qs)),
       cmdCisla_Tiketu(Okno.Pojmenuj(new QPushButton(this), u"cmdCisla_Tiketu"_qs)),
       cmdOpakovatGener(Okno.Pojmenuj(new QPushButton(this), u"cmdOpakovatGener"_qs)),
-      cmdZrusit(Okno.Pojmenuj(new QPushButton(this), u"cmdZrusit"_qs)), lblPocetRadek(Okno.Pojmenuj(new QLabel(this), u"lblPocetRadek"_qs)),
-      Picture1(new QStackedWidget(this)), Analyza(new frmVypisTipu_Analyza(ram.Sezeni(), Picture1)),
-      Vyber(new frmVypisTipu_Vyber(ram.Sezeni(), Picture1)), Vyhodnoceni(nullptr), Vyhry(nullptr), Seznamy(new QStackedLayout), Ram(ram),
-      Sezeni(ram.Sezeni()) {
+      cmdZrusit(Okno.Pojmenuj(new QPushButton(this), u"cmdZrusit"_qs)),
+      lblPocetRadek(Okno.Pojmenuj(new QLabel(this), u"lblPocetRadek"_qs)), Picture1(new QStackedWidget(this)),
+      Analyza(new frmVypisTipu_Analyza(ram.Sezeni(), Picture1)), Vyber(new frmVypisTipu_Vyber(ram.Sezeni(), Picture1)),
+      Vyhodnoceni(nullptr), Vyhry(nullptr), Seznamy(new QStackedLayout), Ram(ram), Sezeni(ram.Sezeni()) {
     setObjectName(u"frmVypisTipu"_qs);
     setWindowTitle(Tabulka_Textu::Programu().Text(u"frmVypisTipu"_qs));
     Sezeni.Formular_Otevren_Tipy = true;
@@ -177,6 +183,7 @@ frmVypisTipu::frmVypisTipu(frmMDITombi& ram, bool vlastni, QWidget* parent)
         ram.Otevri_Okno<frmGeneruj>(ram);
     });
     connect(txtSoubor_Tipu, &QLineEdit::textEdited, this, [this] { Jmeno_Upraveno = true; });
+    connect(&ram, &frmMDITombi::Den_Prepnut, this, &frmVypisTipu::Novy_Den);
     Nacti(vlastni);
 }
 
@@ -225,6 +232,10 @@ void frmVypisTipu::Vytvor_Vyhodnoceni() {
     Picture1->insertWidget(2, Vyhodnoceni);
     connect(Vyhodnoceni->cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(0); });
     connect(Vyhodnoceni, &frmVypisTipu_Vyhodnoceni::Vyhodnotit, this, [this] { cmdOK_Click(0); });
+    connect(Vyhodnoceni, &frmVypisTipu_Vyhodnoceni::Vysledek_Neplatny, this, [this] {
+        Vyhry->Vycisti_Formular();
+        Vyska(Vyska_Okna);
+    });
     connect(Vyhodnoceni, &frmVypisTipu_Vyhodnoceni::Tah_Zobrazen, this, [this] {
         if (List1->currentRow() < 0)
             picSloupec_Vypis_Tipu->Vycisti();
@@ -239,8 +250,30 @@ void frmVypisTipu::Vytvor_Vyhodnoceni() {
     });
 }
 
+void frmVypisTipu::Novy_Den() {
+    // A result belongs to the draw day it was counted on: the new day starts the evaluation afresh,
+    // with its own prizes and its whole archive as the range. A run under way stops first.
+    if (Vyhodnoceni->Bezi_Beh()) {
+        Sezeni.Tikety.Zrusit_Beh = true;
+        QTimer::singleShot(0, this, &frmVypisTipu::Novy_Den);
+        return;
+    }
+    const int panel = Picture1->currentIndex();
+    Vytvor_Vyhodnoceni();
+    Picture1->setCurrentIndex(panel);
+    Vyska(Vyska_Okna);
+}
+
 void frmVypisTipu::Vyska(double twipy) {
     Vyhry->setVisible(twipy > Vyska_Okna);
+    // Panels made anew (another file opened into the open list) count only once the layouts hear
+    // of them; measured before, the draw boxes would be squashed to slivers.
+    for (QWidget* prvek :
+         {static_cast<QWidget*>(Vyhodnoceni), static_cast<QWidget*>(Vyhry), static_cast<QWidget*>(Picture1)}) {
+        prvek->ensurePolished();
+        prvek->updateGeometry();
+    }
+    layout()->activate();
     const int vyska = std::max(Pixely(twipy, *this), minimumSizeHint().height());
     // In the area the frame around the window takes the new height.
     if (auto* ram = qobject_cast<QMdiSubWindow*>(parentWidget()))
@@ -267,7 +300,8 @@ void frmVypisTipu::Nakresli_Neobsazena() {
     // Numbers no tip holds yet are circled while tips are entered by hand.
     if (!Vlastni_Tipy)
         return;
-    for (const QString& cislo : modAnalyza_Tipu::Neobsazena_Cisla(Sezeni.Tipy.Soubor_Tipu).split(u',', Qt::SkipEmptyParts))
+    for (const QString& cislo :
+         modAnalyza_Tipu::Neobsazena_Cisla(Sezeni.Tipy.Soubor_Tipu).split(u',', Qt::SkipEmptyParts))
         picSloupec_Vypis_Tipu->Pridej_Kruh(int(Vb::Val(cislo)));
 }
 
@@ -581,8 +615,8 @@ void frmVypisTipu::cmdZrusTip_Click() {
     picSloupec_Vypis_Tipu->Vycisti();
     Vypis_Tipu_Do_Listu();
     int vybrany = std::min(radek, List1->count() - 1);
-    while (vybrany > 0 && (List1->item(vybrany)->text().trimmed().isEmpty() ||
-                           List1->item(vybrany)->text().contains(u"čís"_qs)))
+    while (vybrany > 0 &&
+           (List1->item(vybrany)->text().trimmed().isEmpty() || List1->item(vybrany)->text().contains(u"čís"_qs)))
         --vybrany;
     Posledni_Radek = vybrany;
     List1->setCurrentRow(vybrany);
@@ -681,10 +715,27 @@ void frmVypisTipu::Pripoj_Prikazy(frmMDITombi& ram) {
             ram.Sezeni().Sluzby->Zprava(u"Není soubor tipů."_qs);
     });
     ram.Obsluz(ram.mnuVlastniTipy, [&ram] {
+        Relace& relace = ram.Sezeni();
+        Stav_Tipu& tipy = relace.Tipy;
+        // Tips that were never saved are not thrown away unasked.
+        if (Pocet_Tipu_V_Souboru(tipy.Soubor_Tipu) > 0 && !tipy.Je_Soubor_Tipu &&
+            relace.Dialog->Otazka(
+                Dialogy::Ikona::Otaznik, u"Vlastní tipy"_qs,
+                u"Stávající tipy nejsou uloženy v souboru.\r\nOpravdu začít nový soubor vlastních tipů ?"_qs,
+                Dialogy::Tlacitka::Ano_Ne, Dialogy::Odpoved::Ne) != Dialogy::Odpoved::Ano)
+            return;
         // The bettors' list closes here too once it is built.
         ram.Zavri_Okno<frmGeneruj>();
         ram.Zavri_Okno<frmVypisTahu>();
         ram.Zavri_Okno<frmVypisTipu>();
+        // Own tips start a new file, as the empty list shows: "Zapiš" must not add them to the
+        // file opened before.
+        tipy.Soubor_Tipu = Zaznam_Tipu();
+        tipy.Pocet_Tipu_Aktivni = 0;
+        tipy.Pocet_Tipu_Celkem = 0;
+        tipy.Jmeno_Souboru_Tipu.clear();
+        tipy.Je_Soubor_Tipu = false;
+        tipy.Seznam_Navazany.clear();
         ram.Otevri_Okno<frmVypisTipu>(ram, true);
         ram.Sezeni().Sluzby->Nastav_Status(QString(), QString());
     });

@@ -7,7 +7,6 @@
 #include "data/Soubor_Tipu.h"
 
 #include <QWidget>
-
 #include <memory>
 
 class QLabel;
@@ -91,6 +90,7 @@ private:
     void Nakresli_Neobsazena();
     void Najdi_Vyhru(const Misto_Vyhry& misto);
     void Vyska(double twipy);
+    void Novy_Den();
     void Vytvor_Vyhodnoceni();
 
     QStackedLayout* Seznamy; // List1, or lstFIX while the list is being built
@@ -102,7 +102,7 @@ private:
     bool Meni_Cisla = false;
     bool Zmena_Vyberu = false;
     bool Nacita = false;
-    int Pocet_Radek = 0;        // in hand entry: numbers chosen so far
-    int Posledni_Radek = -1;    // to tell up from down when stepping over gaps
+    int Pocet_Radek = 0;     // in hand entry: numbers chosen so far
+    int Posledni_Radek = -1; // to tell up from down when stepping over gaps
     std::unique_ptr<Zaznam_Tipu> Zaloha_Tipu;
 };

@@ -1,11 +1,11 @@
 #include "tips/frmVypisTipu_Vyhodnoceni.h"
 
-#include "core/Dialogy.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "core/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmOvladani.h"
+#include "core/Dialogy.h"
+#include "core/Vb.h"
 #include "data/Dny_Tahu.h"
 #include "tips/Srovnani.h"
 #include "tips/frmVypisTipu_Vyhry.h"
@@ -22,12 +22,11 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
-
 #include <algorithm>
 
+using modNastaveni_Ovladani::Cele_Cislo;
 using modNastaveni_Ovladani::Indexem;
 using modNastaveni_Ovladani::Prvek;
-using modNastaveni_Ovladani::Cele_Cislo;
 
 namespace {
 
@@ -39,15 +38,16 @@ constexpr int Souboru_Srovnani = 100;     // random files of the comparison with
 } // namespace
 
 frmVypisTipu_Vyhodnoceni::frmVypisTipu_Vyhodnoceni(Relace& sezeni, frmVypisTipu_Vyhry& vyhry, QWidget* parent)
-    : QWidget(parent), Frame2(Okno.Pojmenuj(new QGroupBox(this), u"Frame2"_qs)), Label5(Okno.Pojmenuj(new QLabel(this), u"Label5"_qs)),
-      Label6(Okno.Pojmenuj(new QLabel(this), u"Label6"_qs)), Label7(Okno.Pojmenuj(new QLabel(this), u"Label7"_qs)),
-      Check1(Okno.Pojmenuj(new QCheckBox(this), u"Check1"_qs)), txtPocet_1Tahu(Okno.Pojmenuj(new QLineEdit(this), u"txtPocet_1Tahu"_qs)),
+    : QWidget(parent), Frame2(Okno.Pojmenuj(new QGroupBox(this), u"Frame2"_qs)),
+      Label5(Okno.Pojmenuj(new QLabel(this), u"Label5"_qs)), Label6(Okno.Pojmenuj(new QLabel(this), u"Label6"_qs)),
+      Label7(Okno.Pojmenuj(new QLabel(this), u"Label7"_qs)), Check1(Okno.Pojmenuj(new QCheckBox(this), u"Check1"_qs)),
+      txtPocet_1Tahu(Okno.Pojmenuj(new QLineEdit(this), u"txtPocet_1Tahu"_qs)),
       txtPocet_2Tahu(Okno.Pojmenuj(new QLineEdit(this), u"txtPocet_2Tahu"_qs)),
       scrPocet_1Tahu(Okno.Pojmenuj(new QScrollBar(Qt::Horizontal, this), u"scrPocet_1Tahu"_qs)),
       scrPocet_2Tahu(Okno.Pojmenuj(new QScrollBar(Qt::Horizontal, this), u"scrPocet_2Tahu"_qs)),
       cmdGeneruji_Tip(Okno.Pojmenuj(new QPushButton(this), u"cmdGeneruji_Tip"_qs)),
-      cmdOK(Okno.Pojmenuj(new QPushButton(this), u"cmdOK(0)"_qs)), cmdSrovnani(Okno.Pojmenuj(new QPushButton(this), u"cmdSrovnani"_qs)),
-      Sezeni(sezeni), Vyhry(vyhry) {
+      cmdOK(Okno.Pojmenuj(new QPushButton(this), u"cmdOK(0)"_qs)),
+      cmdSrovnani(Okno.Pojmenuj(new QPushButton(this), u"cmdSrovnani"_qs)), Sezeni(sezeni), Vyhry(vyhry) {
     setObjectName(u"Picture1(2)"_qs);
     auto* rozlozeni = new QVBoxLayout(this);
     rozlozeni->setContentsMargins(0, 0, 0, 0);
@@ -188,10 +188,8 @@ void frmVypisTipu_Vyhodnoceni::Nastav_Typ_Vyhodnoceni() {
     Typ_Vyhodnoceni[1]->setEnabled(archiv);
     for (int i : {0, 2, 3})
         Typ_Vyhodnoceni[std::size_t(i)]->setEnabled(tipy && (i != 2 || archiv));
-    if (!tipy && archiv) {
+    if (!tipy && archiv)
         Typ_Vyhodnoceni[1]->setChecked(true);
-        Typ_Tazena_V_Tazich = true;
-    }
 }
 
 int frmVypisTipu_Vyhodnoceni::Typ() const {
@@ -217,22 +215,19 @@ void frmVypisTipu_Vyhodnoceni::Vycisti_Vyhodnoceni() {
 }
 
 void frmVypisTipu_Vyhodnoceni::Typ_Click(int index) {
-    // The kinds clicked accumulate; a run does every one of them.
+    // The option buttons show one kind chosen, and a run evaluates that one only: a kind clicked
+    // earlier must not add its counts to the money of this one.
     Sezeni.Random.Dolni_Mez = 1;
     Sezeni.Random.Horni_Mez = 49;
     Vycisti_Vyhodnoceni();
+    emit Vysledek_Neplatny();
     switch (index) {
     case 0:
-        Typ_Tazena_V_Tipech = true;
-        Obnov_Cisla_Tahu();
-        break;
     case 1:
-        Typ_Tazena_V_Tazich = true;
         Obnov_Cisla_Tahu();
         break;
     case 2:
         Frame2->setTitle(QString());
-        Typ_Soubor_V_Tazich = true;
         // A large file goes against the newest second draw only.
         if (Sezeni.Tipy.Pocet_Tipu_Aktivni > Max_Tiketu) {
             txtPocet_2Tahu->setText(u"1"_qs);
@@ -242,7 +237,6 @@ void frmVypisTipu_Vyhodnoceni::Typ_Click(int index) {
             Vyhry.Prepocti_Vklad(N1(), N2());
         break;
     default:
-        Typ_Nahodny_Los = true;
         Nahodny_Los();
         break;
     }
@@ -486,6 +480,12 @@ std::optional<Vysledek_Vyhodnoceni> frmVypisTipu_Vyhodnoceni::Vyhodnot() {
         Vyhry.Cekej(false);
         return std::nullopt;
     }
+    // A draw holds each number once; a number typed twice would count its hits twice.
+    if (typ != 2 && (Opakovane_Cislo(radky[0]) || Opakovane_Cislo(radky[1]))) {
+        Sezeni.Sluzby->Zprava(Text_Stejna_Cisla);
+        Vyhry.Cekej(false);
+        return std::nullopt;
+    }
 
     Bezi = true;
     cmdOK->setEnabled(false);
@@ -494,7 +494,7 @@ std::optional<Vysledek_Vyhodnoceni> frmVypisTipu_Vyhodnoceni::Vyhodnot() {
         const Prace prace(Sezeni.Sluzby);
         const Prubeh prubeh = prace.Prubeh_Prace();
         const Rozsah_Tahu rozsah = Rozsah_Archivu(Sezeni.Archiv, N1(), N2());
-        if (Typ_Nahodny_Los || Typ_Tazena_V_Tipech) {
+        if (typ == 0 || typ == 3) {
             Barvy_Radku barvy1{}, barvy2{};
             Vyh_Tah_V_Tipech(tipy, radky[0], radky[1], v, barvy1, barvy2, prubeh);
             const QColor zasah = frmKresleni::Barva_Z_Vb(Sezeni.Nastaveni.Barva_Zasahu);
@@ -502,14 +502,16 @@ std::optional<Vysledek_Vyhodnoceni> frmVypisTipu_Vyhodnoceni::Vyhodnot() {
             for (int tah = 1; tah <= 2; ++tah)
                 for (int i = 0; i < 7; ++i) {
                     const Barva_Boxu b = (tah == 1 ? barvy1 : barvy2)[std::size_t(i)];
-                    Nastav_Barvu(Box(tah, i), b == Barva_Boxu::Zasah ? zasah : b == Barva_Boxu::Vedle ? vedle : Qt::white);
+                    Nastav_Barvu(Box(tah, i), b == Barva_Boxu::Zasah   ? zasah
+                                              : b == Barva_Boxu::Vedle ? vedle
+                                                                       : Qt::white);
                 }
             if (Pocet_Cisel(radky[0]) > 2)
                 Zobraz_Legendu(true);
         }
-        if (Typ_Tazena_V_Tazich && !v.Zastaveno)
+        if (typ == 1)
             Vyh_Cisla_V_Tazich(radky[0], radky[1], chkTah[0]->isChecked(), chkTah[1]->isChecked(), rozsah, v, prubeh);
-        if (Typ_Soubor_V_Tazich && !v.Zastaveno)
+        if (typ == 2)
             Vyh_Soubor_V_Tazich(tipy, rozsah, v, prubeh);
     }
     Bezi = false;
@@ -525,7 +527,8 @@ std::optional<Vysledek_Vyhodnoceni> frmVypisTipu_Vyhodnoceni::Vyhodnot() {
 
 void frmVypisTipu_Vyhodnoceni::Srovnej() {
     const Zaznam_Tipu& tipy = Sezeni.Tipy.Soubor_Tipu;
-    if (Bezi || tipy.Pocet_Tipu <= 0 || Sezeni.Archiv.Pocet_Tahy_1 + Sezeni.Archiv.Pocet_Tahy_2 == 0)
+    const int pocet_tipu = Pocet_Tipu_V_Souboru(tipy);
+    if (Bezi || pocet_tipu <= 0 || Sezeni.Archiv.Pocet_Tahy_1 + Sezeni.Archiv.Pocet_Tahy_2 == 0)
         return;
     Bezi = true;
     cmdOK->setEnabled(false);
@@ -533,7 +536,7 @@ void frmVypisTipu_Vyhodnoceni::Srovnej() {
     Vysledek_Srovnani s;
     {
         const Prace prace(Sezeni.Sluzby);
-        s = Srovnej_S_Nahodou(tipy, tipy.Pocet_Tipu, Rozsah_Archivu(Sezeni.Archiv, N1(), N2()), Vyhry.Ceny(),
+        s = Srovnej_S_Nahodou(tipy, pocet_tipu, Rozsah_Archivu(Sezeni.Archiv, N1(), N2()), Vyhry.Ceny(),
                               Souboru_Srovnani, seminko, prace.Prubeh_Prace());
     }
     Bezi = false;
@@ -554,5 +557,6 @@ void frmVypisTipu_Vyhodnoceni::Srovnej() {
                 .arg(Vb::Format(s.Penize_Nahody.Prumer, u"### ### ###").trimmed())
                 .arg(Vb::Format(s.Penize_Nahody.Pet, u"### ### ###").trimmed())
                 .arg(Vb::Format(s.Penize_Nahody.Devadesat, u"### ### ###").trimmed());
-    Sezeni.Dialog->Okno_Zpravy(Dialogy::Ikona::Informace, Okno.Text(u"cmdSrovnani"_qs).remove(u'&'), text + s.Veta);
+    Sezeni.Dialog->Okno_Zpravy(Dialogy::Ikona::Informace, Okno.Text(u"cmdSrovnani"_qs).remove(u'&'),
+                               text + s.Veta.join(u"\n"_qs));
 }

@@ -7,7 +7,6 @@
 #include "tips/Vyhodnoceni.h"
 
 #include <QWidget>
-
 #include <array>
 #include <optional>
 
@@ -36,7 +35,9 @@ public:
     // result, none when nothing was evaluated (no tips, too few numbers: its message shown).
     std::optional<Vysledek_Vyhodnoceni> Vyhodnot();
     // The drawn numbers were looked for in the archive: the draw list has had its say then.
-    bool Hledano_V_Tazich() const { return Typ_Tazena_V_Tazich; }
+    bool Hledano_V_Tazich() const { return Typ() == 1; }
+    // A run or a comparison is under way.
+    bool Bezi_Beh() const { return Bezi; }
     // Zapis_Do_Tahu: a Ctrl+click on the picture fills the next box.
     void Zapis_Do_Tahu(int cislo);
     // Obarvi_Tahy for each number of a tip chosen in the list (the boxes show how it stands to the
@@ -77,6 +78,8 @@ signals:
     void Vyhodnotit();
     // A draw's numbers are in the first row: the picture shows them.
     void Tah_Zobrazen();
+    // Another kind was chosen: the counts and money of the last run no longer answer it.
+    void Vysledek_Neplatny();
 
 private:
     QWidget* Druhy();
@@ -101,11 +104,6 @@ private:
 
     Relace& Sezeni;
     frmVypisTipu_Vyhry& Vyhry;
-    // The kinds asked for so far: they accumulate until the window is loaded again.
-    bool Typ_Tazena_V_Tipech = true;
-    bool Typ_Tazena_V_Tazich = false;
-    bool Typ_Soubor_V_Tazich = false;
-    bool Typ_Nahodny_Los = false;
     int Aktivni_Tah = 0;
     int Aktivni_Pozice = 0;
     bool Nacita = true;

@@ -1,14 +1,14 @@
 #include "tips/frmVypisTipu_Vyhry.h"
 
-#include "core/Dialogy.h"
-#include "core/Hodiny.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "core/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmOvladani.h"
 #include "app/frmTiskarna.h"
 #include "app/modTombi.h"
+#include "core/Dialogy.h"
+#include "core/Hodiny.h"
+#include "core/Vb.h"
 
 #include <QAbstractListModel>
 #include <QEvent>
@@ -21,9 +21,9 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QStackedLayout>
 #include <QVBoxLayout>
-
 #include <algorithm>
 #include <cmath>
 
@@ -66,8 +66,10 @@ frmVypisTipu_Vyhry::frmVypisTipu_Vyhry(Relace& sezeni, QWidget* parent)
     : QWidget(parent), Tah1CelkVyhra(Okno.Pojmenuj(new QLineEdit(this), u"Tah1CelkVyhra"_qs)),
       Tah2CelkVyhra(Okno.Pojmenuj(new QLineEdit(this), u"Tah2CelkVyhra"_qs)),
       txtCelkemVyhra(Okno.Pojmenuj(new QLineEdit(this), u"txtCelkemVyhra"_qs)),
-      txtVklad(Okno.Pojmenuj(new QLineEdit(this), u"txtVklad"_qs)), txtUspech(Okno.Pojmenuj(new QLineEdit(this), u"txtUspech"_qs)),
-      txtSance(Okno.Pojmenuj(new QLineEdit(this), u"txtSance"_qs)), cmdSance(Okno.Pojmenuj(new QPushButton(this), u"cmdSance"_qs)),
+      txtVklad(Okno.Pojmenuj(new QLineEdit(this), u"txtVklad"_qs)),
+      txtUspech(Okno.Pojmenuj(new QLineEdit(this), u"txtUspech"_qs)),
+      txtSance(Okno.Pojmenuj(new QLineEdit(this), u"txtSance"_qs)),
+      cmdSance(Okno.Pojmenuj(new QPushButton(this), u"cmdSance"_qs)),
       lstTiketyVypis(Okno.Pojmenuj(new QListView(this), u"lstTiketyVypis"_qs)),
       List3(Okno.Pojmenuj(new QListWidget(this), u"List3"_qs)),
       lblPocetRadekTiketu(Okno.Pojmenuj(new QLabel(this), u"lblPocetRadekTiketu"_qs)),
@@ -82,10 +84,18 @@ frmVypisTipu_Vyhry::frmVypisTipu_Vyhry(Relace& sezeni, QWidget* parent)
     lstTiketyVypis->setUniformItemSizes(true);
     List3->addItem(Okno.Text(u"List3"_qs));
     List3->setEnabled(false);
+    // Each list as wide as its lines and its scroll bar: the tier, the line's last character, stays
+    // in view.
+    const QString vzory[] = {Radek_Vyhry({999999, 10, 2, 5}), Okno.Text(u"lblSazejici"_qs)};
+    int i = 0;
     for (QListView* seznam : {static_cast<QListView*>(lstTiketyVypis), static_cast<QListView*>(lstSazejiciVypis)}) {
         QFont pevne(u"DejaVu Sans Mono"_qs);
         pevne.setPointSizeF(seznam->font().pointSizeF());
         seznam->setFont(pevne);
+        seznam->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        seznam->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        seznam->setMinimumWidth(QFontMetrics(pevne).horizontalAdvance(vzory[i++]) +
+                                seznam->verticalScrollBar()->sizeHint().width() + 2 * seznam->frameWidth() + 8);
     }
 
     auto* rozlozeni = new QHBoxLayout(this);
@@ -100,7 +110,8 @@ frmVypisTipu_Vyhry::frmVypisTipu_Vyhry(Relace& sezeni, QWidget* parent)
     optTyden_Click(den);
     Prepis(txtVklad, Vb::Format(Sezeni.Tikety.Vklad.Korun(), u"### ### ###"));
     Prepis(txtSance, Vb::Format(Sezeni.Tikety.Vklad_Sance.Korun(), u"### ### ###"));
-    cmdSance->setText(Sezeni.Tikety.Vklad_Sance.Hodnota > 0 ? Okno.Text(u"cmdSance.Plus"_qs) : Okno.Text(u"cmdSance"_qs));
+    cmdSance->setText(Sezeni.Tikety.Vklad_Sance.Hodnota > 0 ? Okno.Text(u"cmdSance.Plus"_qs)
+                                                            : Okno.Text(u"cmdSance"_qs));
 
     connect(cmdSance, &QPushButton::clicked, this, &frmVypisTipu_Vyhry::cmdSance_Click);
     connect(txtVklad, &QLineEdit::textEdited, this, [this] {
@@ -237,6 +248,9 @@ void frmVypisTipu_Vyhry::optTyden_Click(int index) {
         Tah1Vyhra[i]->setText(Vb::Text(ceny[i].Korun()));
         Tah2Vyhra[i]->setText(Vb::Text(ceny[i + 5].Korun()));
     }
+    // New prizes, new money: the sums, the total and the profit follow at once.
+    Prepocti_Soucet(1);
+    Prepocti_Soucet(2);
 }
 
 std::array<Ceny_Tahu, 2> frmVypisTipu_Vyhry::Ceny() const {
@@ -257,16 +271,24 @@ void frmVypisTipu_Vyhry::Vyhra_Zmenena(int tah, int index) {
         pole->setText(Vb::Format(Hodnota(pole), u"### ### ###"));
         pole->end(false);
     }
+    Prepocti_Soucet(tah);
+}
+
+void frmVypisTipu_Vyhry::Prepocti_Soucet(int tah) {
+    // The sum is held wide enough for any count and prize: a sum that did not fit 32 bits would
+    // otherwise leave the old sum standing beside the new prizes.
     const Vyhry& vyhry = tah == 1 ? Vyhry_1Tah : Vyhry_2Tah;
-    const std::optional<int32_t> soucet = Soucet_Tahu_32(vyhry, Ceny()[std::size_t(tah - 1)]);
-    if (!soucet) {
-        Sezeni.Sluzby->Zprava(Text_Mimo_Normal);
-        return;
-    }
+    QLineEdit* soucet = tah == 1 ? Tah1CelkVyhra : Tah2CelkVyhra;
+    bool vyhra = false;
     for (std::size_t i = 0; i < 5; ++i)
-        if (vyhry[i + 1] > 0)
+        if (vyhry[i + 1] > 0) {
             (tah == 1 ? Tah1Cena : Tah2Cena)[i]->setText(Vb::Format(double(vyhry[i + 1]), u"### ###"));
-    (tah == 1 ? Tah1CelkVyhra : Tah2CelkVyhra)->setText(Vb::Format(*soucet, u"### ### ###"));
+            vyhra = true;
+        }
+    if (vyhra)
+        soucet->setText(Vb::Format(Soucet_Tahu(vyhry, Ceny()[std::size_t(tah - 1)]), u"### ### ###"));
+    else
+        soucet->clear();
 }
 
 void frmVypisTipu_Vyhry::Soucet_Zmenen() {
@@ -282,7 +304,7 @@ void frmVypisTipu_Vyhry::Spocti_Uspech() {
 void frmVypisTipu_Vyhry::Obarvi_Pocet(QLineEdit* pocet) {
     QPalette paleta = pocet->palette();
     paleta.setColor(QPalette::Base, Hodnota(pocet) != 0 ? frmKresleni::Barva_Z_Vb(Sezeni.Nastaveni.Barva_Zasahu)
-                                                         : palette().color(QPalette::Button));
+                                                        : palette().color(QPalette::Button));
     pocet->setPalette(paleta);
 }
 

@@ -7,7 +7,6 @@
 #include "tips/Vypis_Vyher.h"
 
 #include <QWidget>
-
 #include <array>
 #include <vector>
 
@@ -85,6 +84,7 @@ private:
     QWidget* Seznamy();
     void optTyden_Click(int index);
     void Vyhra_Zmenena(int tah, int index);
+    void Prepocti_Soucet(int tah);
     void Soucet_Zmenen();
     void Spocti_Uspech();
     void Obarvi_Pocet(QLineEdit* pocet);

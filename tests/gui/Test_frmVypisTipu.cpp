@@ -95,20 +95,23 @@ private slots:
         QCOMPARE(vypis->cmdPouzita_Cisla->text(), u"Zapiš"_qs);
         QVERIFY(vypis->List1->count() == 0);
 
-        // Six numbers, one of them clicked twice (out again), then written as tip 11 on a new ticket.
+        // Six numbers, one of them clicked twice (out again), then written as the first tip of a new
+        // file: the file opened before is not added to.
         for (const int cislo : {40, 3, 17, 17, 17, 9, 1, 22})
             Klikni(vypis->picSloupec_Vypis_Tipu, cislo);
         QCOMPARE(prostredi.Prvek<QLineEdit>(u"txtRozpisAktivni"_qs)->text(), u" 1 3 9 17 22 40"_qs);
         QTest::mouseClick(vypis->cmdPouzita_Cisla, Qt::LeftButton);
-        QCOMPARE(int(prostredi.Data->Tipy.Pocet_Tipu_Aktivni), 11);
-        QCOMPARE(prostredi.Data->Tipy.Soubor_Tipu.Tikety[2].Cisla[1], Cisla<Tip>({1, 3, 9, 17, 22, 40}));
-        QCOMPARE(vypis->List1->item(vypis->List1->count() - 1)->text(),
-                 u"    1     3     9     17   22   40   "_qs);
+        QCOMPARE(int(prostredi.Data->Tipy.Pocet_Tipu_Aktivni), 1);
+        QCOMPARE(prostredi.Data->Tipy.Soubor_Tipu.Tikety[1].Cisla[1], Cisla<Tip>({1, 3, 9, 17, 22, 40}));
+        QCOMPARE(prostredi.Data->Tipy.Soubor_Tipu.Tikety[1].Cisla[2], Tip{});
+        QCOMPARE(vypis->List1->count(), 2);
+        QVERIFY(vypis->txtSoubor_Tipu->text() != u"t10"_qs);
+        QCOMPARE(vypis->List1->item(vypis->List1->count() - 1)->text(), u"    1     3     9     17   22   40   "_qs);
 
         // The empty cell after 49 fills a whole tip at random, six different numbers.
         Klikni(vypis->picSloupec_Vypis_Tipu, 50);
         QTest::mouseClick(vypis->cmdPouzita_Cisla, Qt::LeftButton);
-        const Tip nahodny = prostredi.Data->Tipy.Soubor_Tipu.Tikety[2].Cisla[2];
+        const Tip nahodny = prostredi.Data->Tipy.Soubor_Tipu.Tikety[1].Cisla[2];
         QVERIFY(std::is_sorted(nahodny.begin(), nahodny.end()));
         QVERIFY(std::adjacent_find(nahodny.begin(), nahodny.end()) == nahodny.end() && nahodny[1] >= 1);
     }

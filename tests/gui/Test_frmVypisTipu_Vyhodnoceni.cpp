@@ -3,20 +3,21 @@
 // two printouts read back from PDF.
 #include "Bajty.h"
 #include "Prostredi_Okna.h"
-#include "core/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmSloupec_Tiketu.h"
 #include "app/modTombi.h"
+#include "core/Vb.h"
 #include "core/pTikety.h"
+#include "data/Soubor_Tipu.h"
 #include "tips/frmVypisTipu.h"
+#include "tips/frmVypisTipuVsech.h"
 #include "tips/frmVypisTipu_Vyhodnoceni.h"
 #include "tips/frmVypisTipu_Vyhry.h"
-#include "tips/frmVypisTipuVsech.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
-#include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
@@ -94,13 +95,17 @@ private slots:
         QTest::mouseClick(vyhry->cmdSance, Qt::LeftButton);
         QTest::mouseClick(vyhry->cmdSance, Qt::LeftButton);
         QCOMPARE(Hodnota(vyhry->txtVklad), 300.0);
-        // Typed on to nine nines: from eight digits 23 prizes overflow 32 bits and the sum of seven
-        // stands; the ninth is above the limit and cut.
+        // Typed on to nine nines, the prize is cut to the limit, and the sum follows it beyond 32 bits.
         vyhry->Tah1Vyhra[2]->selectAll();
         QTest::keyClicks(vyhry->Tah1Vyhra[2], u"999999999"_qs);
         QCOMPARE(vyhry->Tah1Vyhra[2]->text(), u"500000000"_qs);
-        QCOMPARE(prostredi.Oznameni().last(), u"Některé z čísel mimo normál, nekalkulováno."_qs);
-        QCOMPARE(Hodnota(vyhry->Tah1CelkVyhra), 23.0 * 9999999);
+        QCOMPARE(Hodnota(vyhry->Tah1CelkVyhra), 23.0 * 500000000);
+        // The program's change of the prizes moves the money too: Wednesday's table, total, profit.
+        prostredi.Data->Nastaveni.Ceny_Streda[2] = Vb::Mena::Z_Korun(2000);
+        vyhry->optTyden[1]->click();
+        QCOMPARE(Hodnota(vyhry->Tah1CelkVyhra), 46000.0);
+        QCOMPARE(Hodnota(vyhry->txtCelkemVyhra), 46000.0);
+        QCOMPARE(Hodnota(vyhry->txtUspech), 15233.0);
 
         // The only tier-2 win leads to its tip, the second column of ticket 1.
         QTest::mouseClick(vyhry->Tah1Cena[1], Qt::LeftButton);
@@ -119,6 +124,11 @@ private slots:
         }
         QCOMPARE(panel->Radek(1), (Radek_Tahu{11, 12, 13, 14, 15, 16, 17}));
         QCOMPARE(panel->Radek(2)[0], 18);
+
+        // A number typed twice in a draw is refused, not counted twice.
+        Napis_Tah(tah1, {u"5"_qs, u"5"_qs, u"20"_qs, u"1"_qs, u"2"_qs, u"3"_qs});
+        QTest::mouseClick(panel->cmdOK, Qt::LeftButton);
+        QCOMPARE(prostredi.Oznameni().last(), u"Pozor, zadána stejná čísla !"_qs);
     }
 
     void Soubor_V_Tazich_A_Tisk() {
@@ -134,19 +144,26 @@ private slots:
 
         Vysledek_Vyhodnoceni ocekavane;
         Vyh_Soubor_V_Tazich(prostredi.Data->Tipy.Soubor_Tipu,
-                            Rozsah_Archivu(prostredi.Data->Archiv, 300, prostredi.Data->Archiv.Pocet_Tahy_2), ocekavane);
+                            Rozsah_Archivu(prostredi.Data->Archiv, 300, prostredi.Data->Archiv.Pocet_Tahy_2),
+                            ocekavane);
         QVERIFY(ocekavane.Pocet_Vyhernich_Zaznamu() > 0);
         QCOMPARE(vyhry->lstTiketyVypis->model()->rowCount(), int(ocekavane.Pocet_Vyhernich_Zaznamu()));
         QCOMPARE(Hodnota(vyhry->Tah1Cena[4]), double(ocekavane.Vyhry_1Tah[5]));
 
-        // The kinds clicked add up: back on the typed numbers, the file still goes against the
-        // archive too, and the counts of both stand together.
+        // The tier stands in view, the win list as wide as its lines.
+        const QString radek = vyhry->lstTiketyVypis->model()->index(0, 0).data().toString();
+        QVERIFY(vyhry->lstTiketyVypis->viewport()->width() >=
+                vyhry->lstTiketyVypis->fontMetrics().horizontalAdvance(radek));
+
+        // One kind a run: another option clears the money, and the typed draw alone is counted.
         QTest::mouseClick(panel->Typ_Vyhodnoceni[0], Qt::LeftButton);
+        QVERIFY(!vyhry->isVisible() && vyhry->Tah1Cena[4]->text().isEmpty());
         for (std::size_t i = 0; i < 7; ++i)
             panel->Tah1[i]->setText(QString::number(i + 1));
         QTest::mouseClick(panel->cmdOK, Qt::LeftButton);
-        QCOMPARE(Hodnota(vyhry->Tah1Cena[0]), double(ocekavane.Vyhry_1Tah[1] + 1));
-        QCOMPARE(vyhry->lstTiketyVypis->model()->rowCount(), int(ocekavane.Pocet_Vyhernich_Zaznamu()));
+        QCOMPARE(Hodnota(vyhry->Tah1Cena[0]), 1.0);
+        QVERIFY(vyhry->Tah1Cena[4]->text().isEmpty());
+        QCOMPARE(vyhry->lstTiketyVypis->model()->rowCount(), 25);
 
         // The winning tickets on paper, and the payouts list without and with bettors.
         prostredi.Dialogy.Pdf = prostredi.Cesta(u"vyhry.pdf"_qs);
@@ -181,7 +198,8 @@ private slots:
         frmVypisTipu_Vyhry* vyhry = vypis->Vyhry;
         QVERIFY(vyhry->optTyden[2]->isChecked());
         QCOMPARE(vyhry->optTyden[2]->text(), u"pátek"_qs);
-        QCOMPARE(std::pair(Hodnota(vyhry->Tah1Vyhra[0]), Hodnota(vyhry->Tah2Vyhra[0])), std::pair(20000000.0, 1000000.0));
+        QCOMPARE(std::pair(Hodnota(vyhry->Tah1Vyhra[0]), Hodnota(vyhry->Tah2Vyhra[0])),
+                 std::pair(20000000.0, 1000000.0));
         prostredi.Data->Nastaveni.Ceny_Streda[0] = Vb::Mena::Z_Korun(5000);
         vyhry->optTyden[1]->click();
         QCOMPARE(Hodnota(vyhry->Tah1Vyhra[0]), 5000.0);
@@ -193,6 +211,36 @@ private slots:
         // The second Friday draw of the archive, a one-off of 2006.
         panel->txtPocet_2Tahu->setText(u"417"_qs);
         QCOMPARE(panel->lblTahCislo[1]->text(), u" 15.09.2006 "_qs);
+    }
+
+    void Den_Soubor_A_Vklad() {
+        // Ten tips under a header of 9,500: the stake is that of ten tips.
+        Prostredi prostredi(QDate(2026, 11, 28));
+        auto z = std::make_unique<Zaznam_Tipu>(Cti_Zaznam_Tipu(Soubor_Tipu(10)));
+        z->Pocet_Tipu = 9500;
+        Zapis_Souboru(prostredi.Cesta(u"t.tip"_qs), Zapis_Zaznam_Tipu(*z));
+        frmMDITombi& okno = prostredi.Spust();
+        prostredi.Otevri_Tipy(u"t.tip"_qs);
+        frmVypisTipu* vypis = okno.Najdi_Okno<frmVypisTipu>();
+        QCOMPARE(Hodnota(vypis->Vyhry->txtVklad), 120.0);
+
+        // Opened again with the list open, the draw boxes and the legend keep their height.
+        const int vyska = vypis->Vyhodnoceni->Tah1[0]->height();
+        prostredi.Otevri_Tipy(u"t.tip"_qs);
+        QCoreApplication::processEvents();
+        QVERIFY(vypis->Vyhodnoceni->Tah1[0]->height() >= vyska);
+        QVERIFY(vypis->Vyhodnoceni->Label5->height() >= vypis->Vyhodnoceni->Label5->fontMetrics().height());
+
+        // A result belongs to its day: Wednesday clears it and shows Wednesday's prizes and archive.
+        for (std::size_t i = 0; i < 7; ++i)
+            vypis->Vyhodnoceni->Tah1[i]->setText(QString::number(i + 1));
+        QTest::mouseClick(vypis->Vyhodnoceni->cmdOK, Qt::LeftButton);
+        QVERIFY(vypis->Vyhry->isVisible() && !vypis->Vyhry->Tah1Cena[2]->text().isEmpty());
+        QVERIFY(vypis->Vyhry->optTyden[0]->isChecked());
+        prostredi.Prikaz(u"mnuSportka_streda"_qs)->trigger();
+        QVERIFY(!vypis->Vyhry->isVisible() && vypis->Vyhry->Tah1Cena[2]->text().isEmpty());
+        QVERIFY(vypis->Vyhry->optTyden[1]->isChecked());
+        QCOMPARE(vypis->Vyhodnoceni->txtPocet_1Tahu->text(), QString::number(prostredi.Data->Archiv.Pocet_Tahy_1));
     }
 
     void Velky_Soubor() {

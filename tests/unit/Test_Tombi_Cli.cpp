@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cstdio>
@@ -135,9 +136,11 @@ private slots:
         QCOMPARE(Spust(los).Radky, prvni.Radky);
         const Beh srovnani = Spust({u"evaluate"_qs, u"--srovnani"_qs, u"5"_qs, tip, sez, u"50"_qs, u"50"_qs,
                                     u"--seminko"_qs, u"3"_qs});
-        QCOMPARE(srovnani.Radky.size(), 6);
+        QCOMPARE(srovnani.Radky.size(), 11);
         QVERIFY(srovnani.Radky[0].startsWith(u"soubor 1 1 "_qs));
         QCOMPARE(srovnani.Radky[4], u"seminko 3"_qs);
+        QVERIFY(QRegularExpression(u"^poradi [1-6] z 6 percentil [0-9]+$"_qs).match(srovnani.Radky[5]).hasMatch());
+        QVERIFY(srovnani.Radky.last().startsWith(u"Minulé tahy"_qs));
     }
 
     void Analyza() {
