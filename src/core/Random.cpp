@@ -56,8 +56,9 @@ constexpr uint64_t Zlaty_Krok = 0x9E3779B97F4A7C15ull;
 Zdroj_Seminka::Zdroj_Seminka(uint64_t seminko) : Stav(Promichej_64(seminko + Zlaty_Krok)) {}
 
 float Zdroj_Seminka::Rnd() {
-    Stav += Zlaty_Krok;
-    Posledni = float(Promichej_64(Stav) >> 40) / 16777216.0f;
+    // A 64-bit congruential step; its top 24 bits are the value, which is all a float holds.
+    Stav = Stav * 6364136223846793005ull + 1442695040888963407ull;
+    Posledni = float(Stav >> 40) / 16777216.0f;
     return Posledni;
 }
 
