@@ -6,6 +6,7 @@
 #include "core/Tabulka_Textu.h"
 #include "core/Vb.h"
 #include "app/frmKresleni.h"
+#include "app/frmMDITombi_Plocha.h"
 #include "app/frmMDITombi_Sluzby.h"
 #include "app/frmMDITombi_Stav.h"
 #include "app/frmMDITombi_Tahy.h"
@@ -72,6 +73,7 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
     Mdi_Plocha->setObjectName(u"Plocha"_qs);
     Mdi_Plocha->setBackground(Nase_Pozadi);
     Mdi_Plocha->viewport()->installEventFilter(this);
+    frmMDITombi_Plocha::Posouvej(*Mdi_Plocha);
     auto* stred = new QWidget;
     auto* rozvrzeni = new QVBoxLayout(stred);
     rozvrzeni->setContentsMargins(0, 0, 0, 0);
@@ -310,10 +312,7 @@ void frmMDITombi::Umisti_Okno() {
         QGuiApplication::screenAt(ulozene.center()) != nullptr) {
         setGeometry(ulozene);
     } else {
-        // A small screen keeps a rim around the window for the system's frame.
-        const QSize velikost(std::min(Pixely(Vychozi_Sirka, *this), plocha.width() * 9 / 10),
-                             std::min(Pixely(Vychozi_Vyska, *this), plocha.height() * 9 / 10));
-        resize(velikost.expandedTo(minimumSize()));
+        resize(frmMDITombi_Plocha::Prvni_Velikost(plocha).expandedTo(minimumSize()));
         move(plocha.x() + (plocha.width() - width()) / 2, plocha.y() + (plocha.height() - height()) / 2);
     }
     // Maximised over the normal place just set, so that un-maximising returns to it.
@@ -416,6 +415,7 @@ void frmMDITombi::Ukaz_V_Plose(QWidget* okno, bool vpravo) {
             podokno->adjustSize();
             podokno->setFixedSize(podokno->size());
         }
+        frmMDITombi_Plocha::Vejdi_Se(*Mdi_Plocha, *podokno);
     }
     podokno->setProperty(Skryto_Na_Chvili, false);
     okno->show();
