@@ -291,6 +291,7 @@ QColor frmVypisTipu_Vyhodnoceni::Barva(const QLineEdit* box) const {
 void frmVypisTipu_Vyhodnoceni::Box_Zmenen(int tah, int index) {
     QLineEdit* box = Box(tah, index);
     const int n = Cele_Cislo(box);
+    Tah_Zmenen();
     if (!box->text().isEmpty() && (n < 1 || n > 49)) {
         box->clear();
         return;
@@ -303,7 +304,14 @@ void frmVypisTipu_Vyhodnoceni::Box_Zmenen(int tah, int index) {
     }
 }
 
+void frmVypisTipu_Vyhodnoceni::Tah_Zmenen() {
+    // The money below answered the draw as it stood: a number changed by the user leaves it untrue.
+    if (Typ() != 2 && Vyhry.isVisible())
+        Vyhry.Vycisti_Formular();
+}
+
 void frmVypisTipu_Vyhodnoceni::Zapis_Do_Tahu(int cislo) {
+    Tah_Zmenen();
     QLineEdit* box = Box(Aktivni_Tah + 1, Aktivni_Pozice);
     box->setText(QString::number(cislo));
     Nastav_Barvu(box, frmKresleni::Barva_Z_Vb(Barva_Zmeny));

@@ -90,6 +90,7 @@ private:
     void Obnov_Cisla_Tahu();
     void Nahodny_Los();
     void Box_Zmenen(int tah, int index);
+    void Tah_Zmenen();
     void Pocet_Zmenen(int tah);
     void Pocet_Opusten(int tah);
     void Check1_Click();

@@ -112,6 +112,11 @@ private slots:
         QCOMPARE(vyhry->lstTiketyVypis->currentIndex().row(), 1);
         QCOMPARE(vypis->List1->currentRow(), 2);
 
+        // A new drawn number typed: the counts and money of the old draw go.
+        tah1[0]->selectAll();
+        QTest::keyClicks(tah1[0], u"9"_qs);
+        QVERIFY(vyhry->Tah1Cena[2]->text().isEmpty() && vyhry->Tah1CelkVyhra->text().trimmed().isEmpty());
+
         // Ctrl+clicks fill the boxes in turn, the eighth the first box of the second draw.
         const int cisla[] = {11, 12, 13, 14, 15, 16, 17, 18};
         for (const int n : cisla) {
@@ -230,6 +235,14 @@ private slots:
         QCoreApplication::processEvents();
         QVERIFY(vypis->Vyhodnoceni->Tah1[0]->height() >= vyska);
         QVERIFY(vypis->Vyhodnoceni->Label5->height() >= vypis->Vyhodnoceni->Label5->fontMetrics().height());
+
+        // The comparison with chance tells the rank and never credits the filters.
+        vypis->Vyhodnoceni->txtPocet_1Tahu->setText(u"10"_qs);
+        vypis->Vyhodnoceni->txtPocet_2Tahu->setText(u"10"_qs);
+        QTest::mouseClick(vypis->Vyhodnoceni->cmdSrovnani, Qt::LeftButton);
+        const QString srovnani = prostredi.Dialogy.Okna.last();
+        QVERIFY(srovnani.contains(u"z 101)"_qs) && srovnani.contains(u"Minulé tahy nemění šanci"_qs));
+        QVERIFY(!srovnani.contains(u"pomohly"_qs));
 
         // A result belongs to its day: Wednesday clears it and shows Wednesday's prizes and archive.
         for (std::size_t i = 0; i < 7; ++i)
