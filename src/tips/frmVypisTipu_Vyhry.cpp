@@ -326,7 +326,7 @@ void frmVypisTipu_Vyhry::Prepocti_Vklad(int n1, int n2) {
     txtVklad->setText(Vb::Format(Sezeni.Tikety.Vklad.Korun() * m, u"### ### ###"));
     txtSance->setText(Vb::Format(Sezeni.Tikety.Vklad_Sance.Korun() * m, u"### ### ###"));
     Spocti_Uspech();
-    lblCasZpracovani->setText(Odhad_Casu(n1, n2, Sezeni.Tipy.Soubor_Tipu.Pocet_Tipu));
+    lblCasZpracovani->setText(Odhad_Casu(n1, n2, Pocet_Tipu_V_Souboru(Sezeni.Tipy.Soubor_Tipu)));
 }
 
 // ---- The counts, the sums and the list of wins ----
