@@ -109,8 +109,8 @@ std::optional<QString> frmCDlg::Otevrit_Soubor(const QString& filtr, const QStri
     const QString cesta = QFileDialog::getOpenFileName(Vlastnik, nazev, slozka, Qt_Filtr(filtr));
     if (cesta.isEmpty())
         return std::nullopt;
-    // A file copied from a CD is read-only; the program writes back to what it opened.
-    QFile::setPermissions(cesta, QFile::permissions(cesta) | QFileDevice::WriteOwner);
+    // Opening never changes a file's permissions: one the user made read-only is told so when
+    // Tombi must write it.
     return cesta;
 }
 

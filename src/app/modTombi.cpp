@@ -1,5 +1,6 @@
 #include "app/modTombi.h"
 
+#include "core/Dialogy.h"
 #include "core/Hodiny.h"
 #include "core/Vb.h"
 
@@ -23,6 +24,33 @@ const QString& Znaky_1250() {
         return Vb::Z_1250(bajty);
     }();
     return znaky;
+}
+
+// A save cut off by a crash or a power cut: the user learns of it, and where the archive is gone
+// but its backup stands, may take the backup rather than start without draws.
+void Prohledni_Preruseny_Zapis(Relace& relace) {
+    const QString& soubor = relace.Archiv.Soubor_Tahu;
+    const Preruseny_Zapis nalez = Uklid_Po_Preruseni(relace.Adresar_Dat(), soubor);
+    if (relace.Dialog == nullptr)
+        return;
+    const QString titulek = u"Archiv tahů"_qs;
+    if (nalez.Zaloha_Bez_Archivu) {
+        const QString otazka = u"Archiv tahů \""_qs + soubor +
+                               u"\" chybí, nejspíš proto, že jeho poslední zápis byl přerušen. Je tu ale jeho "
+                               u"záloha \""_qs +
+                               Jmeno_Zalohy(soubor) +
+                               u"\" se stavem před poslední změnou.\r\nObnovit archiv ze zálohy ?"_qs;
+        if (relace.Dialog->Otazka(Dialogy::Ikona::Vykricnik, titulek, otazka, Dialogy::Tlacitka::Ano_Ne,
+                                  Dialogy::Odpoved::Ano) != Dialogy::Odpoved::Ano)
+            return;
+        if (const Vysledek obnova = Obnov_Chybejici_Archiv(relace.Adresar_Dat(), soubor); !obnova.Ok())
+            relace.Dialog->Okno_Zpravy(Dialogy::Ikona::Stop, titulek, obnova.Zprava);
+    } else if (!nalez.Uklizeno.isEmpty()) {
+        relace.Dialog->Okno_Zpravy(Dialogy::Ikona::Informace, titulek,
+                                   u"Zápis archivu tahů \""_qs + soubor +
+                                       u"\" byl přerušen. Archiv zůstal celý; nedokončené soubory byly smazány: "_qs +
+                                       nalez.Uklizeno.join(u", "_qs) + u'.');
+    }
 }
 
 } // namespace
@@ -122,6 +150,7 @@ Vysledek Prepni_Den(Relace& relace, Den den) {
                              : den == Den::Streda ? relace.Nastaveni.FTP_Data1
                                                   : QStringView(Soubor_Dat_Patku).toString();
     Nastav_Den_Archivu(relace.Archiv, den);
+    Prohledni_Preruseny_Zapis(relace);
     const Vysledek nacteni = Nacti_Tahy(relace.Archiv, relace.Adresar_Dat(), relace.Archiv.Soubor_Tahu);
     // A failed load has emptied the archive; the flat lists and counts follow it, so that no window
     // goes on with the draws of the other day.

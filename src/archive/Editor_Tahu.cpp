@@ -1,7 +1,9 @@
 #include "archive/Editor_Tahu.h"
 
 #include "core/Vb.h"
+#include "data/Soubory.h"
 
+#include <QFileInfo>
 #include <algorithm>
 
 namespace {
@@ -160,6 +162,9 @@ Uprava_Tahu Pridej_Tah(Archiv_Tahu& archiv, int tah, int rok, int tyden, const B
         return {false, u"Týden a rok již obsazen, lze pouze OPRAVIT !"_qs};
     if (!Platny_Tyden(tyden) || rok < 1 || rok > INT16_MAX)
         return {false, u"Týden musí být 1 až 53 a rok kladné číslo."_qs};
+    // A draw never holds a number twice: the evaluation would count such a draw wrong.
+    if (Stejna_Cisla(boxy))
+        return {false, u"Pozor, zadána stejná čísla !"_qs};
     if (Najdi_Rok(archiv, rok) == 0) {
         // A new year goes last; the records are never sorted.
         archiv.Pocet_Let = Platny_Pocet_Let(archiv) + 1;
@@ -170,7 +175,8 @@ Uprava_Tahu Pridej_Tah(Archiv_Tahu& archiv, int tah, int rok, int tyden, const B
     }
     Tyden_Zaznam& zaznam = *Tyden_Roku(archiv, rok, tyden);
     Nastav_Priznak(zaznam, tah, true);
-    Uloz_Boxy(Cisla(zaznam, tah), boxy);
+    // Numbers a foreign file left in a week without its flag do not slip into the new draw.
+    Cisla(zaznam, tah) = boxy;
     return Zmena(archiv);
 }
 
@@ -187,7 +193,15 @@ Uprava_Tahu Oprav_Tah(Archiv_Tahu& archiv, int tah, int rok, int tyden, const Bo
         return {false, u"Pozor, zadána stejná čísla !"_qs};
     if (!Kontrola_Obsazeni(archiv, tah, rok, tyden))
         return {false, u"Není co OPRAVIT, týden či rok neexistuje."_qs};
-    Uloz_Boxy(Cisla(*Tyden_Roku(archiv, rok, tyden), tah), boxy);
+    Tah& cisla = Cisla(*Tyden_Roku(archiv, rok, tyden), tah);
+    // The draw as it will stand is checked, old numbers kept by empty boxes included.
+    Tah nova = cisla;
+    Uloz_Boxy(nova, boxy);
+    if (Stejna_Cisla(nova))
+        return {false, u"Pozor, zadána stejná čísla !"_qs};
+    if (nova == cisla)
+        return {};
+    cisla = nova;
     return Zmena(archiv);
 }
 
@@ -204,4 +218,38 @@ Uprava_Tahu Smaz_Tah(Archiv_Tahu& archiv, int tah, int rok, int tyden) {
 
 Vysledek Zaloha_Soubor_Tahu(const Archiv_Tahu& archiv, const QString& adresar) {
     return Zaloha_Souboru(1, archiv, adresar, archiv.Soubor_Tahu);
+}
+
+Zmena_Archivu Uprav_Archiv(Archiv_Tahu& archiv, const QString& adresar,
+                           const std::function<Uprava_Tahu(Archiv_Tahu&)>& zmena) {
+    Zmena_Archivu vysledek;
+    const Zamek_Archivu zamek(adresar, archiv.Soubor_Tahu);
+    if (!zamek.Chyba().isEmpty()) {
+        vysledek.Zapis = Vysledek::Chyba(zamek.Chyba());
+        return vysledek;
+    }
+    const QString cesta = Spoj_Cestu(adresar, archiv.Soubor_Tahu);
+    if (QFileInfo::exists(cesta)) {
+        const Nacteny_Soubor nacteny = Nacti_Soubor(cesta, Nejvic_Archivu);
+        if (!nacteny.Ok()) {
+            vysledek.Zapis = Vysledek::Chyba(nacteny.Zprava(archiv.Soubor_Tahu));
+            return vysledek;
+        }
+        std::vector<Rok_Zaznam> na_disku = Cti_Roky(nacteny.Data);
+        const int pocet_let = Platny_Pocet_Let(archiv);
+        const bool stejne = int(na_disku.size()) - 1 == pocet_let &&
+                            std::equal(na_disku.begin() + 1, na_disku.end(), archiv.Pole_Tahu.begin() + 1);
+        if (!stejne) {
+            archiv.Pole_Tahu = std::move(na_disku);
+            archiv.Pocet_Let = int(archiv.Pole_Tahu.size()) - 1;
+            archiv.Dny = Nacti_Dny(adresar, archiv.Soubor_Tahu);
+            archiv.Tahy_Nacteny = true;
+            Priprav_Seznamy_Tahu(archiv);
+            vysledek.Znovu_Nacteno = true;
+        }
+    }
+    vysledek.Uprava = zmena(archiv);
+    if (vysledek.Uprava.Zmeneno)
+        vysledek.Zapis = Zaloha_Soubor_Tahu(archiv, adresar);
+    return vysledek;
 }

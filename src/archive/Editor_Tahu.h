@@ -10,6 +10,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 
 // The series of a draw as the editor counts it (Aktivni_Tah): 0 first draws, 1 second draws.
@@ -68,13 +69,14 @@ struct Uprava_Tahu {
 using Boxy_Tahu = Tah;
 
 // Pridej_Tah: "Chybí číslo týdne !" for week 0, "Týden a rok již obsazen, lze pouze OPRAVIT !" for
-// a week that holds a draw. A year not yet in the archive gets a new record at the end. The
-// non-empty boxes are stored; equal numbers are not refused.
+// a week that holds a draw, "Pozor, zadána stejná čísla !" for a number given twice. A year not
+// yet in the archive gets a new record at the end. The draw is the boxes, an empty box 0.
 Uprava_Tahu Pridej_Tah(Archiv_Tahu& archiv, int tah, int rok, int tyden, const Boxy_Tahu& boxy);
 // Kontrola_Cisel: two non-empty boxes with the same number.
 bool Stejna_Cisla(const Boxy_Tahu& boxy);
-// Oprav_Tah: "Pozor, zadána stejná čísla !", then "Není co OPRAVIT, týden či rok neexistuje.";
-// an empty box keeps the old number.
+// Oprav_Tah: "Pozor, zadána stejná čísla !" for equal boxes, then "Není co OPRAVIT, týden či rok
+// neexistuje.", then "Pozor, zadána stejná čísla !" again when a box equals an old number that
+// stays. An empty box keeps the old number; a repair that changes no number changes nothing.
 Uprava_Tahu Oprav_Tah(Archiv_Tahu& archiv, int tah, int rok, int tyden, const Boxy_Tahu& boxy);
 // cmdSmaz with Smaz_Tah: a missing year gives "Není co SMAZAT, týden či rok neexistuje.", an empty
 // week of an existing year nothing. The flag and the seven numbers go; the year record stays.
@@ -83,3 +85,16 @@ Uprava_Tahu Smaz_Tah(Archiv_Tahu& archiv, int tah, int rok, int tyden);
 // Zaloha_Souboru(1, Soubor_Tahu) of the editor: the old file becomes the backup and the archive is
 // written whole; a missing file is simply written.
 Vysledek Zaloha_Soubor_Tahu(const Archiv_Tahu& archiv, const QString& adresar);
+
+// One change of the archive on disk as a whole, under the archive's lock (Zamek_Archivu): the
+// file is read; if it differs from what `archiv` holds (another program wrote it since it was
+// loaded), `archiv` takes it, dates and flat lists with it; then `zmena` runs and, if it changed
+// anything, the archive is written with its backup. A missing file leaves `archiv` as it is, so
+// the first draw typed in creates it.
+struct Zmena_Archivu {
+    Uprava_Tahu Uprava;
+    bool Znovu_Nacteno = false; // `archiv` took the file as another program left it
+    Vysledek Zapis;             // why the lock, the read or the write failed; Uspech otherwise
+};
+Zmena_Archivu Uprav_Archiv(Archiv_Tahu& archiv, const QString& adresar,
+                           const std::function<Uprava_Tahu(Archiv_Tahu&)>& zmena);

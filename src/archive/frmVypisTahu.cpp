@@ -531,9 +531,12 @@ void frmVypisTahu::cboTah_Click(int tah) {
 void frmVypisTahu::cmdDalsiTah_Click() {
     const int rok = Rok();
     const int tyden = Tyden();
-    const bool obsazeno = tyden != 0 && Kontrola_Obsazeni(Sezeni.Archiv, Aktivni_Tah, rok, tyden);
-    const Uprava_Tahu uprava = Pridej_Tah(Sezeni.Archiv, Aktivni_Tah, rok, tyden, Boxy(txtTah_Cislo));
-    Po_Zmene(uprava);
+    const Boxy_Tahu boxy = Boxy(txtTah_Cislo);
+    bool obsazeno = false;
+    const Uprava_Tahu uprava = Proved([&](Archiv_Tahu& archiv) {
+        obsazeno = tyden != 0 && Kontrola_Obsazeni(archiv, Aktivni_Tah, rok, tyden);
+        return Pridej_Tah(archiv, Aktivni_Tah, rok, tyden, boxy);
+    });
     // Ready for the next week, also after the message of a filled one.
     if (uprava.Zmeneno || obsazeno)
         txtTyden->setText(QString::number(tyden + 1));
@@ -541,30 +544,44 @@ void frmVypisTahu::cmdDalsiTah_Click() {
 
 void frmVypisTahu::cmdOpravit_Click() {
     const int radek = Seznam(Aktivni_Tah)->currentRow();
-    const Uprava_Tahu uprava = Oprav_Tah(Sezeni.Archiv, Aktivni_Tah, Rok(), Tyden(), Boxy(txtTah_Cislo));
-    Po_Zmene(uprava);
+    const Boxy_Tahu boxy = Boxy(txtTah_Cislo);
+    const int rok = Rok(), tyden = Tyden();
+    const Uprava_Tahu uprava =
+        Proved([&](Archiv_Tahu& archiv) { return Oprav_Tah(archiv, Aktivni_Tah, rok, tyden, boxy); });
     if (uprava.Zmeneno && radek >= 0 && radek < Seznam(Aktivni_Tah)->count())
         Vyber_Radek(Seznam(Aktivni_Tah), radek);
 }
 
 void frmVypisTahu::cmdSmaz_Click() {
-    Po_Zmene(Smaz_Tah(Sezeni.Archiv, Aktivni_Tah, Rok(), Tyden()));
+    const int rok = Rok(), tyden = Tyden();
+    Proved([&](Archiv_Tahu& archiv) { return Smaz_Tah(archiv, Aktivni_Tah, rok, tyden); });
 }
 
-void frmVypisTahu::Po_Zmene(const Uprava_Tahu& uprava) {
+Uprava_Tahu frmVypisTahu::Proved(const std::function<Uprava_Tahu(Archiv_Tahu&)>& zmena) {
+    // Where the day had no archive, this draw makes it.
+    const bool bez_archivu = Ram.Bez_Tahu();
+    const Zmena_Archivu vysledek = Uprav_Archiv(Sezeni.Archiv, Sezeni.Adresar_Dat(), zmena);
+    const Uprava_Tahu& uprava = vysledek.Uprava;
+    if (vysledek.Znovu_Nacteno) {
+        // Another program wrote the archive since it was loaded: its draws stand, and this change
+        // went onto them.
+        Nacti_Seznamy();
+        Sezeni.Sluzby->Zprava(u"Archiv tahů mezitím změnil jiný program; seznamy ukazují jeho nový stav."_qs);
+    }
     if (!uprava.Zprava.isEmpty())
         Sezeni.Sluzby->Zprava(uprava.Zprava);
+    if (!vysledek.Zapis.Ok())
+        Sezeni.Sluzby->Zprava(vysledek.Zapis.Zprava);
     if (!uprava.Zmeneno)
-        return;
-    Vypis_Cisla(Aktivni_Tah);
-    Sezeni.Tikety.Zmena_Dat = true;
-    // The file is replaced whole; where the day had none, this draw has made its archive.
-    const bool bez_archivu = Ram.Bez_Tahu();
-    const Vysledek zapis = Zaloha_Soubor_Tahu(Sezeni.Archiv, Sezeni.Adresar_Dat());
-    if (!zapis.Ok())
-        Sezeni.Sluzby->Zprava(zapis.Zprava);
+        return uprava;
+    if (!vysledek.Znovu_Nacteno)
+        Vypis_Cisla(Aktivni_Tah);
+    // A change written to disk leaves nothing unsaved; one that could not be written does.
+    if (!vysledek.Zapis.Ok())
+        Sezeni.Tikety.Zmena_Dat = true;
     else if (bez_archivu)
         Ram.Tahy_Zalozeny();
+    return uprava;
 }
 
 // ---- The replay ----

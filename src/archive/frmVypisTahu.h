@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <array>
 #include <cstdint>
+#include <functional>
 
 class QCheckBox;
 class QLabel;
@@ -21,6 +22,7 @@ class QStackedLayout;
 class frmMDITombi;
 class frmSloupec_Tiketu;
 struct Relace;
+struct Archiv_Tahu;
 struct Uprava_Tahu;
 
 class frmVypisTahu final : public QWidget {
@@ -92,7 +94,8 @@ private:
     void cmdDalsiTah_Click();
     void cmdOpravit_Click();
     void cmdSmaz_Click();
-    void Po_Zmene(const Uprava_Tahu& uprava);
+    // Runs one change of the archive under its lock and writes it; shows what there is to say.
+    Uprava_Tahu Proved(const std::function<Uprava_Tahu(Archiv_Tahu&)>& zmena);
     void Check1_Click();
     void cmdAnimace_Click();
     void Nastav_Animaci(bool bezi);

@@ -1,17 +1,30 @@
 // tombi-cli archive SOUBOR.sez --pridej|--oprav ROK TYDEN TAH "n1 .. n7", --smaz ROK TYDEN TAH: the
 // editor of the draw list without its window. The same checks refuse with the same messages, and a
-// change is written as the window writes it: the old file becomes the backup.
+// change is written as the window writes it, under the archive's lock: the old file becomes the
+// backup.
 
 #include "archive/Editor_Tahu.h"
 #include "cli/Cli.h"
 #include "data/Archiv_Tahu.h"
 
+#include "data/Soubory.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <csignal>
 #include <optional>
 
 namespace {
+
+// TOMBI_PRERUS_ZAPIS=N kills the process right after step N of the save, as a power cut would:
+// the tests of a cut-off save run tombi-cli so.
+int Krok_Preruseni = 0;
+
+void Prerus_Po_Kroku(int krok) {
+    if (krok == Krok_Preruseni)
+        std::raise(SIGKILL);
+}
 
 const QStringList Volby_Upravy{u"--pridej"_qs, u"--oprav"_qs, u"--smaz"_qs};
 
@@ -69,25 +82,30 @@ int Uprava_Archivu(const QStringList& args) {
         return Nelze_Zapsat_Do(cesta);
     const QFileInfo soubor(cesta);
     Archiv_Tahu archiv;
-    // The first draw typed in creates the archive, as in the window.
-    if (volba != u"--pridej" || QFile::exists(cesta)) {
-        const Vysledek nacteni = Nacti_Tahy(archiv, soubor.absolutePath(), soubor.fileName());
-        if (!nacteni.Ok())
-            return Chyba(nacteni.Zprava);
-    }
     archiv.Soubor_Tahu = soubor.fileName();
+    // The first draw typed in creates the archive, as in the window.
+    if (volba != u"--pridej" && !QFile::exists(cesta))
+        return Chyba(u"Chybí soubor tahů  \""_qs + archiv.Soubor_Tahu + u"\"  v aktuálním adresáři."_qs);
+    Krok_Preruseni = qEnvironmentVariableIntValue("TOMBI_PRERUS_ZAPIS");
+    if (Krok_Preruseni > 0)
+        Sleduj_Kroky_Zapisu(Prerus_Po_Kroku);
 
     const int serie = *tah == 1 ? Prvni_Tah : Druhy_Tah;
-    const Uprava_Tahu uprava = volba == u"--pridej"  ? Pridej_Tah(archiv, serie, *rok, *tyden, *boxy)
-                               : volba == u"--oprav" ? Oprav_Tah(archiv, serie, *rok, *tyden, *boxy)
-                                                     : Smaz_Tah(archiv, serie, *rok, *tyden);
-    if (!uprava.Zprava.isEmpty())
-        return Chyba(uprava.Zprava);
-    if (uprava.Zmeneno) {
-        const Vysledek zapis = Zaloha_Soubor_Tahu(archiv, soubor.absolutePath());
-        if (!zapis.Ok())
-            return Chyba(zapis.Zprava);
-    }
+    const Zmena_Archivu zmena = Uprav_Archiv(archiv, soubor.absolutePath(), [&](Archiv_Tahu& a) {
+        if (volba == u"--pridej")
+            return Pridej_Tah(a, serie, *rok, *tyden, *boxy);
+        if (volba == u"--oprav")
+            return Oprav_Tah(a, serie, *rok, *tyden, *boxy);
+        Uprava_Tahu smazani = Smaz_Tah(a, serie, *rok, *tyden);
+        // The window says nothing over an empty week; a script is told that nothing was deleted.
+        if (!smazani.Zmeneno && smazani.Zprava.isEmpty())
+            smazani.Zprava = u"Není co SMAZAT, týden či rok neexistuje."_qs;
+        return smazani;
+    });
+    if (!zmena.Zapis.Ok())
+        return Chyba(zmena.Zapis.Zprava);
+    if (!zmena.Uprava.Zprava.isEmpty())
+        return Chyba(zmena.Uprava.Zprava);
     const auto [tahy1, tahy2] = Spocitej_Tahy(archiv);
     Vypis(u"let %1 tahy1 %2 tahy2 %3"_qs.arg(archiv.Pocet_Let).arg(tahy1).arg(tahy2));
     return Uspech;

@@ -3,10 +3,15 @@
 #include "core/Vb.h"
 #include "data/Soubory.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QMutex>
 
 #include <algorithm>
 #include <cstring>
+#include <map>
 
 namespace {
 
@@ -56,6 +61,21 @@ void Rok_Do_Bajtu(const Rok_Zaznam& rok, char* p) {
 
 int Platny_Pocet_Let(const Archiv_Tahu& archiv) {
     return std::clamp(archiv.Pocet_Let, 0, int(archiv.Pole_Tahu.size()) - 1);
+}
+
+// The locks this process holds, by file, with how deep they nest.
+QMutex Zamky_Mutex;
+std::map<QString, int>& Drzene_Zamky() {
+    static std::map<QString, int> zamky;
+    return zamky;
+}
+
+// What a cut-off save leaves beside a file: the names Uloz_Se_Zalohou writes aside, the older
+// ".nova" and the backup an older save moved aside.
+QStringList Rozepsane_Soubory(const QString& cesta) {
+    const QFileInfo info(cesta);
+    const QDir slozka = info.absoluteDir();
+    return slozka.entryList({info.fileName() + QStringView(Pripona_Rozepsaneho) + u"*"_qs}, QDir::Files | QDir::Hidden);
 }
 
 } // namespace
@@ -153,6 +173,10 @@ Vysledek Uloz_Tahy(const Archiv_Tahu& archiv, const QString& adresar, const QStr
 Vysledek Zaloha_Souboru(int druh, const Archiv_Tahu& archiv, const QString& adresar, const QString& soubor) {
     const QString a = Spoj_Cestu(adresar, soubor);
     const QString b = Spoj_Cestu(adresar, Jmeno_Zalohy(soubor));
+    // The editor holds the lock already over its whole change; the import takes it here.
+    const Zamek_Archivu zamek(adresar, soubor);
+    if (!zamek.Chyba().isEmpty())
+        return Vysledek::Chyba(zamek.Chyba());
     if (druh == 1)
         return Uloz_Se_Zalohou(a, Zapis_Roky(archiv.Pole_Tahu, Platny_Pocet_Let(archiv)), b);
     // Without a live file the old backup is all there is: keep it.
@@ -166,8 +190,108 @@ Vysledek Obnov_Zalohu(const Archiv_Tahu& archiv, const QString& adresar) {
     const QString zaloha = Spoj_Cestu(adresar, Jmeno_Zalohy(archiv.Soubor_Tahu));
     if (archiv.Soubor_Tahu.isEmpty() || !QFile::exists(zaloha))
         return Vysledek::Chyba(u"Není soubor *.ZAL  v aktuálním adresáři."_qs);
+    const Zamek_Archivu zamek(adresar, archiv.Soubor_Tahu);
+    if (!zamek.Chyba().isEmpty())
+        return Vysledek::Chyba(zamek.Chyba());
+    const QString cil = Skutecna_Cesta(zive);
+    if (cil != QFileInfo(zive).filePath() || QFileInfo(cil).exists()) {
+        // Through a link, or over a file the user may have made read-only: the content goes where
+        // the file is, with its checks, and only then is the backup used up.
+        const Nacteny_Soubor obsah = Nacti_Soubor(zaloha, Nejvic_Archivu);
+        if (!obsah.Ok())
+            return Vysledek::Chyba(obsah.Zprava(Jmeno_Zalohy(archiv.Soubor_Tahu)));
+        if (const Vysledek zapis = Uloz_Soubor(cil, obsah.Data); !zapis.Ok())
+            return zapis;
+        return Smaz_Soubor(zaloha);
+    }
     // One rename replaces the live file, so a failure leaves both as they were.
     return Prejmenuj_Soubor(zaloha, zive);
+}
+
+Zamek_Archivu::Zamek_Archivu(const QString& adresar, const QString& soubor, int cekat_ms)
+    : Cesta(QFileInfo(Skutecna_Cesta(Spoj_Cestu(adresar, soubor))).absoluteFilePath()) {
+    {
+        const QMutexLocker zamceno(&Zamky_Mutex);
+        if (auto it = Drzene_Zamky().find(Cesta); it != Drzene_Zamky().end()) {
+            ++it->second;
+            return;
+        }
+    }
+    Zamek = std::make_unique<QLockFile>(Cesta + u".lock"_qs);
+    if (Zamek->tryLock(cekat_ms)) {
+        const QMutexLocker zamceno(&Zamky_Mutex);
+        Drzene_Zamky()[Cesta] = 1;
+        return;
+    }
+    const QString jmeno = QFileInfo(Cesta).fileName();
+    switch (Zamek->error()) {
+    case QLockFile::LockFailedError:
+        Duvod = u"Archiv tahů \""_qs + jmeno +
+                u"\" právě mění jiný program (jiné okno Tomba nebo tombi-cli). Zkuste to, prosím, znovu."_qs;
+        break;
+    case QLockFile::PermissionError:
+        Duvod = u"Archiv tahů \""_qs + jmeno + u"\" nelze zamknout pro zápis: do složky \""_qs +
+                QFileInfo(Cesta).absolutePath() + u"\" chybí oprávnění k zápisu."_qs;
+        break;
+    default:
+        Duvod = u"Archiv tahů \""_qs + jmeno + u"\" nelze zamknout pro zápis."_qs;
+        break;
+    }
+    Zamek.reset();
+}
+
+Zamek_Archivu::~Zamek_Archivu() {
+    if (!Duvod.isEmpty())
+        return;
+    const QMutexLocker zamceno(&Zamky_Mutex);
+    auto it = Drzene_Zamky().find(Cesta);
+    if (it != Drzene_Zamky().end() && --it->second == 0)
+        Drzene_Zamky().erase(it);
+    // The QLockFile, if this is the outer lock, unlocks as it goes.
+}
+
+Preruseny_Zapis Uklid_Po_Preruseni(const QString& adresar, const QString& soubor) {
+    Preruseny_Zapis nalez;
+    const QString zive = Skutecna_Cesta(Spoj_Cestu(adresar, soubor));
+    const QString zaloha = Skutecna_Cesta(Spoj_Cestu(adresar, Jmeno_Zalohy(soubor)));
+    const QString odlozena = zaloha + u".predchozi"_qs;
+    const bool stopy = QFile::exists(odlozena) || !Rozepsane_Soubory(zive).isEmpty() ||
+                       !Rozepsane_Soubory(zaloha).isEmpty() || !QFile::exists(zive);
+    if (!stopy)
+        return nalez;
+    const Zamek_Archivu zamek(adresar, soubor, 2000);
+    if (!zamek.Chyba().isEmpty())
+        return nalez;
+    if (QFile::exists(odlozena) && !QFile::exists(zaloha))
+        Prejmenuj_Soubor(odlozena, zaloha);
+    if (!QFile::exists(zive)) {
+        // What was written aside may be all there is of the last edit: it stays for the user.
+        nalez.Zaloha_Bez_Archivu = QFileInfo(zaloha).isFile();
+        return nalez;
+    }
+    // The archive stands whole, old or new: what a cut-off save wrote aside is no one's any more.
+    QStringList zbytky;
+    for (const QString& jmeno : Rozepsane_Soubory(zive))
+        zbytky << QFileInfo(zive).absoluteDir().filePath(jmeno);
+    for (const QString& jmeno : Rozepsane_Soubory(zaloha))
+        zbytky << QFileInfo(zaloha).absoluteDir().filePath(jmeno);
+    if (QFile::exists(odlozena))
+        zbytky << odlozena;
+    for (const QString& zbytek : zbytky)
+        if (QFile::remove(zbytek))
+            nalez.Uklizeno << QFileInfo(zbytek).fileName();
+    return nalez;
+}
+
+Vysledek Obnov_Chybejici_Archiv(const QString& adresar, const QString& soubor) {
+    const Zamek_Archivu zamek(adresar, soubor);
+    if (!zamek.Chyba().isEmpty())
+        return Vysledek::Chyba(zamek.Chyba());
+    const QString jmeno_zalohy = Jmeno_Zalohy(soubor);
+    const Nacteny_Soubor obsah = Nacti_Soubor(Spoj_Cestu(adresar, jmeno_zalohy), Nejvic_Archivu);
+    if (!obsah.Ok())
+        return Vysledek::Chyba(obsah.Zprava(jmeno_zalohy));
+    return Uloz_Soubor(Spoj_Cestu(adresar, soubor), obsah.Data);
 }
 
 void Priprav_Seznamy_Tahu(Archiv_Tahu& archiv) {

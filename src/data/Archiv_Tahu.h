@@ -10,8 +10,10 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -87,8 +89,42 @@ Vysledek Uloz_Tahy(const Archiv_Tahu& archiv, const QString& adresar, const QStr
 // archive in memory, and a failed write leaves the file and its backup as they were; where there
 // is no live file yet, druh 1 simply writes it.
 Vysledek Zaloha_Souboru(int druh, const Archiv_Tahu& archiv, const QString& adresar, const QString& soubor);
-// Puts the .zal of Soubor_Tahu in place of the live file; the backup is used up.
+// Puts the .zal of Soubor_Tahu in place of the live file (the file a link names); the backup is
+// used up. A read-only archive is refused.
 Vysledek Obnov_Zalohu(const Archiv_Tahu& archiv, const QString& adresar);
+
+class QLockFile;
+
+// The lock of an archive over one read, change and write, so that the window and any number of
+// tombi-cli calls never write over each other's edit: a lock file "<file>.lock" beside the file
+// (the file a link names). A lock of a process that died is taken over. Within one process the
+// lock nests: an inner one over the same file holds at once and changes nothing.
+class Zamek_Archivu final {
+public:
+    Zamek_Archivu(const QString& adresar, const QString& soubor, int cekat_ms = 10000);
+    ~Zamek_Archivu();
+    Zamek_Archivu(const Zamek_Archivu&) = delete;
+    Zamek_Archivu& operator=(const Zamek_Archivu&) = delete;
+    // Empty when the lock is held; otherwise the Czech message.
+    const QString& Chyba() const { return Duvod; }
+
+private:
+    QString Cesta;
+    std::unique_ptr<QLockFile> Zamek;
+    QString Duvod;
+};
+
+// What a look beside the archive found of a save that was cut off.
+struct Preruseny_Zapis {
+    QStringList Uklizeno;            // names written aside and left behind, removed as the archive stands
+    bool Zaloha_Bez_Archivu = false; // the archive is missing, its backup is there
+};
+// Under the archive's lock: a backup that an older save had moved aside goes back in place; with
+// the archive there, what a cut-off save wrote aside is removed (the archive itself is whole,
+// old or new). Nothing when another program holds the lock or the folder cannot be written.
+Preruseny_Zapis Uklid_Po_Preruseni(const QString& adresar, const QString& soubor);
+// Copies the backup of adresar/soubor in place of the missing archive; the backup stays.
+Vysledek Obnov_Chybejici_Archiv(const QString& adresar, const QString& soubor);
 // Rebuilds Tahy_1 and Tahy_2 from the flagged weeks, in file order.
 void Priprav_Seznamy_Tahu(Archiv_Tahu& archiv);
 // Year and week of draw `index` (1-based, file order) of the first (tah 1) or second list; {0, 0}

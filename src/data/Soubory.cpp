@@ -9,16 +9,50 @@
 #include <QSaveFile>
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
-void Povol_Zapis(const QString& cesta) {
-    QFile f(cesta);
-    if (f.exists())
-        f.setPermissions(f.permissions() | QFileDevice::WriteOwner);
+void (*Sledovani_Kroku)(int) = nullptr;
+
+void Krok_Zapisu(int krok) {
+    if (Sledovani_Kroku != nullptr)
+        Sledovani_Kroku(krok);
+}
+
+const QString Jen_Pro_Cteni =
+    QStringLiteral("soubor je jen pro čtení; Tombi do něj zapíše, až v jeho vlastnostech zápis povolíte");
+
+QByteArray Jmeno_Pro_System(const QString& cesta) {
+    return QFile::encodeName(cesta);
+}
+
+// The user made the file read-only: Tombi respects that rather than replace it by a rename. A file
+// without any write bit counts as such for root too.
+bool Je_Jen_Pro_Cteni(const QString& cesta) {
+    const QByteArray jmeno = Jmeno_Pro_System(cesta);
+    struct stat st {};
+    if (::stat(jmeno.constData(), &st) != 0)
+        return false;
+    return (st.st_mode & 0222) == 0 || ::faccessat(AT_FDCWD, jmeno.constData(), W_OK, AT_EACCESS) != 0;
+}
+
+// A new file takes the mode and group of the one it replaces; a group the user is no member of
+// cannot be given and stays the user's.
+void Prevezmi_Prava(int popisovac, const QString& puvodni) {
+    struct stat st {};
+    if (::stat(Jmeno_Pro_System(puvodni).constData(), &st) != 0)
+        return;
+    if (::fchown(popisovac, uid_t(-1), st.st_gid) != 0) {
+        // Not a member of the group: the file keeps the user's group.
+    }
+    ::fchmod(popisovac, st.st_mode & 07777);
 }
 
 // Why a file operation failed, from errno taken right after the call and, when the system left
@@ -80,23 +114,26 @@ QString Text_Meze(qint64 nejvic) {
 }
 
 // Writes through QSaveFile; the reason of a failure, or nothing. A folder or a device in the way
-// is refused before QSaveFile would put a file in its place.
+// is refused before QSaveFile would put a file in its place. `cesta` has its links resolved.
 QString Zapis(const QString& cesta, const QByteArray& data) {
     const QFileInfo info(cesta);
     if (info.exists() && !info.isFile())
         return Duvod_Ne_Souboru(info);
+    if (info.exists() && Je_Jen_Pro_Cteni(cesta))
+        return Jen_Pro_Cteni;
     const QFileInfo slozka(info.absolutePath());
     if (!slozka.exists())
         return u"složka \""_qs + slozka.filePath() + u"\" neexistuje"_qs;
     if (!slozka.isDir())
         return u"\""_qs + slozka.filePath() + u"\" není složka"_qs;
-    Povol_Zapis(cesta);
     QSaveFile f(cesta);
     // Unbuffered, so that a short write (full disk, size limit) shows in write()'s count: through
     // the buffer Qt's flush drops it silently and commit() would put a cut file in place.
     errno = 0;
     if (!f.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return Duvod_Chyby(errno, f.error(), true);
+    if (info.exists())
+        Prevezmi_Prava(int(f.handle()), cesta);
     errno = 0;
     if (f.write(data) != data.size()) {
         const int cislo = errno;
@@ -105,6 +142,41 @@ QString Zapis(const QString& cesta, const QByteArray& data) {
     errno = 0;
     if (!f.commit())
         return Duvod_Chyby(errno, f.error(), true);
+    return {};
+}
+
+// A name beside `cesta` that no other process uses: the process id, and a count within the process.
+QString Jmeno_Stranou(const QString& cesta) {
+    static std::atomic<int> pocitadlo{0};
+    return cesta + QStringView(Pripona_Rozepsaneho) + u'.' + QString::number(::getpid()) + u'.' +
+           QString::number(++pocitadlo);
+}
+
+// Writes `data` to a new file beside `cil` with its mode and group, on the disk before it returns;
+// the reason of a failure (and nothing left behind), or nothing with the name in `nova`.
+QString Zapis_Stranou(const QString& cil, const QByteArray& data, QString& nova) {
+    QFile f;
+    errno = 0;
+    for (int pokus = 0; pokus < 100; ++pokus) {
+        nova = Jmeno_Stranou(cil);
+        f.setFileName(nova);
+        errno = 0;
+        if (f.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+            break;
+        if (errno != EEXIST)
+            return Duvod_Chyby(errno, f.error(), true);
+    }
+    if (!f.isOpen())
+        return Duvod_Chyby(errno, f.error(), true);
+    Prevezmi_Prava(int(f.handle()), cil);
+    errno = 0;
+    if (f.write(data) != data.size() || ::fsync(int(f.handle())) != 0) {
+        const int cislo = errno;
+        const QString duvod = Duvod_Chyby(cislo, f.error(), true);
+        f.remove();
+        return duvod;
+    }
+    f.close();
     return {};
 }
 
@@ -159,7 +231,6 @@ Nacteny_Soubor Nacti_Soubor(const QString& cesta, qint64 nejvic) {
     if (info.exists() && info.size() > nejvic)
         return prilis_velky(info.size());
 
-    Povol_Zapis(cesta);
     QFile f(cesta);
     errno = 0;
     if (!f.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
@@ -192,50 +263,71 @@ Nacteny_Soubor Nacti_Soubor(const QString& cesta, qint64 nejvic) {
 }
 
 Vysledek Uloz_Soubor(const QString& cesta, const QByteArray& data) {
-    if (const QString duvod = Zapis(cesta, data); !duvod.isEmpty())
+    if (const QString duvod = Zapis(Skutecna_Cesta(cesta), data); !duvod.isEmpty())
         return Nelze_Zapsat(cesta, duvod);
     return Vysledek::Uspech();
 }
 
 Vysledek Uloz_Se_Zalohou(const QString& cesta, const QByteArray& data, const QString& zaloha) {
-    if (!QFileInfo::exists(cesta))
-        return Uloz_Soubor(cesta, data);
-    if (const QFileInfo info(cesta); !info.isFile())
+    const QString cil = Skutecna_Cesta(cesta);
+    const QFileInfo info(cil);
+    if (!info.exists())
+        return Uloz_Soubor(cil, data);
+    if (!info.isFile())
         return Nelze_Zapsat(cesta, Duvod_Ne_Souboru(info));
+    if (Je_Jen_Pro_Cteni(cil))
+        return Nelze_Zapsat(cesta, Jen_Pro_Cteni);
+    const QString zal = Skutecna_Cesta(zaloha);
+    if (const QFileInfo stara(zal); stara.exists() && !stara.isFile())
+        return Nelze_Zapsat(zaloha, Duvod_Ne_Souboru(stara));
 
-    // The write is what fails on a full disk, so it comes first, beside the file; what follows are
-    // renames within one folder, which need no room.
-    const QFileInfo stara_zaloha(zaloha);
-    const bool byla_zaloha = stara_zaloha.exists();
-    if (byla_zaloha && !stara_zaloha.isFile())
-        return Nelze_Zapsat(zaloha, Duvod_Ne_Souboru(stara_zaloha));
-    const QString nova = cesta + u".nova"_qs;
-    if (const QString duvod = Zapis(nova, data); !duvod.isEmpty())
+    // The write is what fails on a full disk, so it comes first; what follows are a link and
+    // renames, which need no room.
+    QString nova;
+    if (const QString duvod = Zapis_Stranou(cil, data, nova); !duvod.isEmpty())
         return Nelze_Zapsat(cesta, duvod);
-    const QString predchozi = zaloha + u".predchozi"_qs;
+    Krok_Zapisu(1);
     const auto nezdar = [&](const QString& z, const QString& na, const QString& duvod) {
         QFile::remove(nova);
         return Vysledek::Chyba(u"Soubor \""_qs + z + u"\" nelze přejmenovat na \""_qs + na + u"\": "_qs + duvod +
                                u'.');
     };
-    if (byla_zaloha) {
-        if (const QString duvod = Prejmenuj(zaloha, predchozi); !duvod.isEmpty())
-            return nezdar(zaloha, predchozi, duvod);
+    // The backup shares the live file's content by a hard link; a copy where the backup lies on
+    // another disk. The live file itself is never moved away.
+    const QString nova_zal = Jmeno_Stranou(zal);
+    errno = 0;
+    if (::link(Jmeno_Pro_System(cil).constData(), Jmeno_Pro_System(nova_zal).constData()) != 0) {
+        const int cislo = errno;
+        if (!QFile::copy(cil, nova_zal)) {
+            QFile::remove(nova_zal);
+            return nezdar(cil, nova_zal, Duvod_Chyby(cislo, QFileDevice::CopyError, true));
+        }
     }
-    if (const QString duvod = Prejmenuj(cesta, zaloha); !duvod.isEmpty()) {
-        if (byla_zaloha)
-            Prejmenuj(predchozi, zaloha);
-        return nezdar(cesta, zaloha, duvod);
+    Krok_Zapisu(2);
+    if (const QString duvod = Prejmenuj(nova_zal, zal); !duvod.isEmpty()) {
+        QFile::remove(nova_zal);
+        return nezdar(nova_zal, zal, duvod);
     }
-    if (const QString duvod = Prejmenuj(nova, cesta); !duvod.isEmpty()) {
-        Prejmenuj(zaloha, cesta);
-        if (byla_zaloha)
-            Prejmenuj(predchozi, zaloha);
-        return nezdar(nova, cesta, duvod);
-    }
-    if (byla_zaloha)
-        QFile::remove(predchozi);
+    // Where the backup already was this very file (a save cut off after its backup), rename()
+    // does nothing and leaves the second name.
+    ::unlink(Jmeno_Pro_System(nova_zal).constData());
+    Krok_Zapisu(3);
+    if (const QString duvod = Prejmenuj(nova, cil); !duvod.isEmpty())
+        return nezdar(nova, cil, duvod);
+    Krok_Zapisu(4);
     return Vysledek::Uspech();
+}
+
+void Sleduj_Kroky_Zapisu(void (*sledovani)(int krok)) {
+    Sledovani_Kroku = sledovani;
+}
+
+QString Skutecna_Cesta(const QString& cesta) {
+    QFileInfo info(cesta);
+    // A loop of links ends here as a name that cannot be opened, which the caller reports.
+    for (int hloubka = 0; hloubka < 40 && info.isSymLink(); ++hloubka)
+        info.setFile(info.symLinkTarget());
+    return info.filePath();
 }
 
 Vysledek Prejmenuj_Soubor(const QString& z, const QString& na) {
@@ -256,9 +348,7 @@ Vysledek Smaz_Soubor(const QString& cesta) {
 }
 
 bool Je_Soubor(const QString& adresar, const QString& jmeno) {
-    const QString cesta = Spoj_Cestu(adresar, jmeno);
-    Povol_Zapis(cesta);
-    return QFile::exists(cesta);
+    return QFile::exists(Spoj_Cestu(adresar, jmeno));
 }
 
 QString Jmeno_Bez_Adresare(const QString& cesta) {

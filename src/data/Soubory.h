@@ -33,26 +33,42 @@ struct Nacteny_Soubor {
     QString Zprava(const QString& jmeno) const;
 };
 
-// Reads the whole file, clearing its read-only flag first as the old program did, so that it can
-// later be replaced. Only a regular file of at most `nejvic` bytes is read: a folder, a device, a
-// pipe or an oversized file is refused before a byte of it is taken in.
+// Reads the whole file. Reading never touches the file's permissions. Only a regular file of at
+// most `nejvic` bytes is read: a folder, a device, a pipe or an oversized file is refused before a
+// byte of it is taken in.
 Nacteny_Soubor Nacti_Soubor(const QString& cesta, qint64 nejvic);
 
-// Replaces the file with `data` atomically. The message names the file and the reason.
+// Replaces the file with `data` atomically. A symbolic link is followed, so the file it names is
+// replaced and the link stays; the file keeps its mode and group. A file the user made read-only is
+// refused with a message that says so. The message names the file and the reason.
 Vysledek Uloz_Soubor(const QString& cesta, const QByteArray& data);
 
-// Replaces the file with `data` and keeps what it replaced as `zaloha`, which is replaced in turn.
-// The new content is written aside first; only then do the old backup, the file and the new
-// content change places. Whatever fails, both files are left as they were. A file that is not
-// there yet is simply written, and the backup stays.
+// Replaces the file with `data` and keeps what it replaced as `zaloha`, which is replaced in turn;
+// links are followed and mode and group kept as by Uloz_Soubor. The new content is written aside
+// under a name of this process alone; then the live file is linked (or copied) aside the backup and
+// renamed over it; last the new content is renamed straight over the live file. So at every
+// instant the file's name holds the old or the new content, and the backup's name a whole backup.
+// A failed write leaves both files as they were. A file that is not there yet is simply written,
+// and the backup stays.
 Vysledek Uloz_Se_Zalohou(const QString& cesta, const QByteArray& data, const QString& zaloha);
+
+// The names that Uloz_Se_Zalohou writes aside start with the file's or the backup's name and this.
+inline constexpr char16_t Pripona_Rozepsaneho[] = u".nova";
+
+// For tests of an interrupted save: called after each step of Uloz_Se_Zalohou with its number,
+// 1 the new content written aside, 2 the backup linked aside, 3 the backup in place, 4 the new
+// content in place. Nothing by default.
+void Sleduj_Kroky_Zapisu(void (*sledovani)(int krok));
+
+// The file a path names, symbolic links followed (also a link to a file not there yet).
+QString Skutecna_Cesta(const QString& cesta);
 
 // Renames, replacing the target if there is one; a failure leaves both as they were.
 Vysledek Prejmenuj_Soubor(const QString& z, const QString& na);
 // Removes the file; a file that is not there counts as removed.
 Vysledek Smaz_Soubor(const QString& cesta);
 
-// The file is there (and is made writable).
+// The file is there.
 bool Je_Soubor(const QString& adresar, const QString& jmeno);
 
 // The name without directory: "C:\a\b.c.tip" and "/a/b.c.tip" both give "b.c.tip".

@@ -8,6 +8,7 @@
 #include "app/frmMDITombi_Sluzby.h"
 #include "app/frmMDITombi_Stav.h"
 #include "app/frmNeniProcedura.h"
+#include "archive/Editor_Tahu.h"
 #include "archive/frmVypisTahu.h"
 #include "generator/Stav_Generatoru.h"
 #include "generator/frmGeneruj.h"
@@ -89,6 +90,12 @@ private slots:
         const int radku = tahy->List1Tah->count();
         tahy->txtRok->setText(u"2026"_qs);
         tahy->txtTyden->setText(u"53"_qs);
+        // A number typed twice never enters the archive.
+        for (int i = 0; i < 7; ++i)
+            tahy->txtTah_Cislo[std::size_t(i)]->setText(u"7"_qs);
+        QTest::mouseClick(tahy->cmdDalsiTah, Qt::LeftButton);
+        QCOMPARE(prostredi.Oznameni(), QStringList{u"Pozor, zadána stejná čísla !"_qs});
+        QCOMPARE(tahy->List1Tah->count(), radku);
         for (int i = 0; i < 7; ++i)
             tahy->txtTah_Cislo[std::size_t(i)]->setText(QString::number(i + 1));
         QTest::mouseClick(tahy->cmdDalsiTah, Qt::LeftButton);
@@ -97,12 +104,19 @@ private slots:
         QCOMPARE(tahy->Text1->text(), QString::number(archiv.Pocet_Tahy_1));
         QCOMPARE(int(prostredi.Data->Tikety.Pocet_Tahu_1), archiv.Pocet_Tahy_1);
         QCOMPARE(tahy->txtTyden->text(), u" 53"_qs);
-        QVERIFY(prostredi.Data->Tikety.Zmena_Dat);
+        // Written to disk, the edit leaves nothing unsaved for the question at the end.
+        QVERIFY(!prostredi.Data->Tikety.Zmena_Dat);
         Archiv_Tahu disk;
         QVERIFY(Nacti_Tahy(disk, prostredi.Slozka.path(), u"SpN_tahy.sez"_qs).Ok());
         Priprav_Seznamy_Tahu(disk);
         QCOMPARE(disk.Pocet_Tahy_1, archiv.Pocet_Tahy_1);
         QVERIFY(QFile::exists(prostredi.Cesta(u"SpN_tahy.zal"_qs)));
+
+        // Another program adds a second draw meanwhile: the window's next edit keeps it and shows it.
+        disk.Soubor_Tahu = u"SpN_tahy.sez"_qs;
+        const Tah druhy = Cisla<Tah>({11, 12, 13, 14, 15, 16});
+        QVERIFY(Pridej_Tah(disk, Druhy_Tah, 2026, 53, druhy).Zmeneno);
+        QVERIFY(Zaloha_Soubor_Tahu(disk, prostredi.Slozka.path()).Ok());
         QTest::mouseClick(tahy->cmdDalsiTah, Qt::LeftButton);
         QCOMPARE(prostredi.Oznameni(), QStringList{u"Týden a rok již obsazen, lze pouze OPRAVIT !"_qs});
 
@@ -111,6 +125,7 @@ private slots:
         tahy->txtTah_Cislo[5]->clear();
         QTest::mouseClick(tahy->cmdOpravit, Qt::LeftButton);
         QCOMPARE(tahy->List1Tah->item(radku)->text(), u"53 -   40    2    3    4    5    6 - 7"_qs);
+        QCOMPARE(tahy->List2Tah->item(tahy->List2Tah->count() - 1)->text(), Radek_Tahu_Seznamu(53, druhy));
         QCOMPARE(tahy->List1Tah->currentRow(), -1);
         tahy->txtTah_Cislo[1]->setText(u"40"_qs);
         QTest::mouseClick(tahy->cmdOpravit, Qt::LeftButton);

@@ -68,9 +68,17 @@ private slots:
         QCOMPARE(Najdi_Radek_Tahu(a, Prvni_Tah, 2024, 3), 3);
         QCOMPARE(Najdi_Radek_Tahu(a, Druhy_Tah, 2024, 3), -1);
 
-        // The second series of the same week is its own draw.
-        QVERIFY(Pridej_Tah(a, Druhy_Tah, 2024, 3, T({1, 1})).Zmeneno);
-        QCOMPARE(Vypis_Cisla_Tahu(a, Druhy_Tah).Radky, (QStringList{u" 2024"_qs, Radek_Tahu_Seznamu(3, T({1, 1}))}));
+        // The second series of the same week is its own draw; a number given twice never enters it.
+        const Archiv_Tahu pred = a;
+        QCOMPARE(Pridej_Tah(a, Druhy_Tah, 2024, 3, T({7, 7, 7, 7, 7, 7, 7})).Zprava,
+                 u"Pozor, zadána stejná čísla !"_qs);
+        QCOMPARE(Pridej_Tah(a, Druhy_Tah, 2024, 3, T({1, 2, 3, 4, 5, 6, 1})).Zprava,
+                 u"Pozor, zadána stejná čísla !"_qs);
+        QCOMPARE(a.Pole_Tahu, pred.Pole_Tahu);
+        // Numbers left in a week without its flag do not slip into the new draw.
+        a.Pole_Tahu[2].Tyden[3].Tah2 = T({40, 41, 42, 43, 44, 45, 46});
+        QVERIFY(Pridej_Tah(a, Druhy_Tah, 2024, 3, T({1, 2})).Zmeneno);
+        QCOMPARE(Vypis_Cisla_Tahu(a, Druhy_Tah).Radky, (QStringList{u" 2024"_qs, Radek_Tahu_Seznamu(3, T({1, 2}))}));
         QCOMPARE(Najdi_Radek_Tahu(a, Druhy_Tah, 2024, 3), 1);
     }
 
@@ -80,6 +88,14 @@ private slots:
         QCOMPARE(Oprav_Tah(a, Prvni_Tah, 2025, 2, T({8})).Zprava, u"Není co OPRAVIT, týden či rok neexistuje."_qs);
         QVERIFY(Oprav_Tah(a, Prvni_Tah, 2025, 1, T({40, 0, 0, 0, 0, 0, 41})).Zmeneno);
         QCOMPARE(Cisla_Tahu(a, Prvni_Tah, 2025, 1), std::optional(T({40, 2, 3, 4, 5, 6, 41})));
+        QCOMPARE(a.Tahy_1[1], T({40, 2, 3, 4, 5, 6, 41}));
+        // The draw as it will stand is checked: a box equal to an old number that stays is refused,
+        // and a repair to what is there already changes nothing.
+        QCOMPARE(Oprav_Tah(a, Prvni_Tah, 2025, 1, T({2})).Zprava, u"Pozor, zadána stejná čísla !"_qs);
+        QCOMPARE(Oprav_Tah(a, Prvni_Tah, 2025, 1, T({0, 0, 0, 0, 0, 0, 40})).Zprava,
+                 u"Pozor, zadána stejná čísla !"_qs);
+        const Uprava_Tahu stejna = Oprav_Tah(a, Prvni_Tah, 2025, 1, T({40, 2, 0, 0, 0, 6}));
+        QVERIFY(!stejna.Zmeneno && stejna.Zprava.isEmpty());
         QCOMPARE(a.Tahy_1[1], T({40, 2, 3, 4, 5, 6, 41}));
 
         QCOMPARE(Smaz_Tah(a, Prvni_Tah, 2023, 1).Zprava, u"Není co SMAZAT, týden či rok neexistuje."_qs);
