@@ -198,8 +198,12 @@ QString Kontrola_Zadani(const Zadani_Generatoru& zadani) {
                 .arg(sloupcu * potreba)
                 .arg(pocet);
     }
-    if (c[0] && (z.Omezeni[0] < 1 || z.Omezeni[1] < 1))
-        return u"Omezení \"sloupec, řádek, křížem\" s nulovou mezí nepropustí žádný tip."_qs;
+    // Grid columns: the OR of their counts stays within the limit, so a limit of 1 holds five
+    // numbers at most (one a column) and 2 holds six (two in each of three columns).
+    const int ve_sloupcich = z.Omezeni[0] >= 2 ? 6 : z.Omezeni[0] >= 1 ? 5 : 0;
+    if (c[0] && (potreba > ve_sloupcich || z.Omezeni[1] < 1))
+        return u"Omezení \"sloupec, řádek, křížem\" %1 / %2 nepropustí žádný tip."_qs.arg(Cislo(z.Omezeni[0]),
+                                                                                          Cislo(z.Omezeni[1]));
     if (c[10] && z.Prunik > potreba)
         return u"Průnik s předchozím tipem může být nejvýš %1."_qs.arg(potreba);
     return {};
@@ -386,9 +390,7 @@ beh:
                 else if (c[0] && modOkruh_Cisel::Omezeni_Rad_Slo_Kriz(tip, pocet_tutovek, z.Omezeni[0], z.Omezeni[1],
                                                                       z.Omezeni[2]))
                     filtr = 0;
-                bool dlouhe = filtr >= 0;
-                bool kratke = false;
-                if (!dlouhe && c[1]) {
+                if (filtr < 0 && c[1]) {
                     if (z.Auto_Oprava == 0)
                         ++zamitnuti;
                     if (modOkruh_Cisel::Omezeni_Treti_Ceny(soubor, tip, tiket, v.Max_Tretich_Cen)) {
@@ -409,11 +411,9 @@ beh:
                         goto novy_pokus;
                     }
                 }
-                if (!dlouhe && c[5] && modOkruh_Cisel::Omezeni_Sud_Lich(tip, z.Sudych, z.Lichych, z.Rozptyl)) {
-                    dlouhe = true;
+                if (filtr < 0 && c[5] && modOkruh_Cisel::Omezeni_Sud_Lich(tip, z.Sudych, z.Lichych, z.Rozptyl))
                     filtr = 5;
-                }
-                if (dlouhe) {
+                if (filtr >= 0) {
                     ++zamitnuto[std::size_t(filtr)];
                     // The long form: in column 10 the fourth one gives the ticket up.
                     if (c[4] && sloupec == 10 && ++pokusy == 4)
@@ -423,15 +423,16 @@ beh:
                     goto novy_pokus;
                 }
                 if (c[6] && modOkruh_Cisel::Omezeni_Dvojice(tip, z.Max_Dvojic))
-                    kratke = true, filtr = 6;
+                    filtr = 6;
                 else if (c[7] && modOkruh_Cisel::Omezeni_Trojice(tip, z.Max_Trojic))
-                    kratke = true, filtr = 7;
+                    filtr = 7;
                 else if (c[2]) {
                     kroky += Vaha_Ceny;
-                    kratke = modOkruh_Cisel::Omezeni_Ceny(tip, tahy_1, z.Vynech_Tahy_1_Od, tahy_2, z.Vynech_Tahy_2_Od);
-                    filtr = 2;
+                    if (modOkruh_Cisel::Omezeni_Ceny(tip, tahy_1, z.Vynech_Tahy_1_Od, tahy_2, z.Vynech_Tahy_2_Od))
+                        filtr = 2;
                 }
-                if (kratke) {
+                if (filtr >= 0) {
+                    // The short form.
                     ++zamitnuto[std::size_t(filtr)];
                     if (c[4])
                         Oznac_Pouzita(v.Pouzita_Cisla, t, sloupec - 1);

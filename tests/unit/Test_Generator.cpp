@@ -260,6 +260,14 @@ private slots:
              },
              u"Omezení nechávají k losování jen 2 čísel, tip jich potřebuje 6."_qs},
             {[](Zadani_Generatoru& z) {
+                 z.Check1[0] = true, z.Omezeni = {1, 2, 3};
+             },
+             u"Omezení \"sloupec, řádek, křížem\" 1 / 2 nepropustí žádný tip."_qs},
+            {[](Zadani_Generatoru& z) {
+                 z.Check1[0] = true, z.Omezeni = {1, 2, 3}, z.Tutovky = {7};
+             },
+             QString()},
+            {[](Zadani_Generatoru& z) {
                  z.Tutovky = {5, 5};
              },
              u"Tutovka 5 je zadána dvakrát: tip nesmí obsahovat stejné číslo dvakrát."_qs},
