@@ -210,6 +210,10 @@ Vysledek Obnov_Zalohu(const Archiv_Tahu& archiv, const QString& adresar) {
 
 Zamek_Archivu::Zamek_Archivu(const QString& adresar, const QString& soubor, int cekat_ms)
     : Cesta(QFileInfo(Skutecna_Cesta(Spoj_Cestu(adresar, soubor))).absoluteFilePath()) {
+    // One file reached by two paths (a linked folder) gets one lock.
+    const QFileInfo info(Cesta);
+    if (const QString slozka = QFileInfo(info.absolutePath()).canonicalFilePath(); !slozka.isEmpty())
+        Cesta = Spoj_Cestu(slozka, info.fileName());
     {
         const QMutexLocker zamceno(&Zamky_Mutex);
         if (auto it = Drzene_Zamky().find(Cesta); it != Drzene_Zamky().end()) {
