@@ -119,7 +119,12 @@ frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
     dole->addWidget(fraTypyRozpisu, 1);
     dole->addLayout(tlacitka);
     auto* rozlozeni = new QVBoxLayout(this);
+    // The word of a stuck run spans the window under the progress, shown only while it stands.
+    lblStav_Behu->setWordWrap(true);
+    lblStav_Behu->setStyleSheet(u"color: #c00000"_qs);
+    lblStav_Behu->hide();
     rozlozeni->addLayout(nahore);
+    rozlozeni->addWidget(lblStav_Behu);
     rozlozeni->addLayout(dole);
 
     connect(txtPoc_Tipu, &QLineEdit::textChanged, this, &frmGeneruj::txtPoc_Tipu_Change);
@@ -185,10 +190,6 @@ QLayout* frmGeneruj::Rozvrh_Poctu() {
     auto* radky = new QFormLayout(prubeh);
     radky->addRow(Okno.Text(u"lblTiket_Popis"_qs), lblTiket);
     radky->addRow(Okno.Text(u"lblTip_Popis"_qs), lblTip);
-    lblStav_Behu->setWordWrap(true);
-    lblStav_Behu->setStyleSheet(u"color: #c00000"_qs);
-    lblStav_Behu->setMaximumWidth(txtPoc_Tipu->maximumWidth() * 2);
-    radky->addRow(lblStav_Behu);
 
     auto* vlevo = new QVBoxLayout;
     vlevo->addLayout(pocty);
@@ -350,6 +351,7 @@ void frmGeneruj::Generuj() {
 
     Beh_Bezi = true;
     lblStav_Behu->clear();
+    lblStav_Behu->hide();
     cmdOK->setEnabled(false);
     cmdZrusit->setText(Okno.Text(u"cmdZrusit.Konec"_qs));
     Omezeni->Zamkni_Pro_Beh(true);
@@ -368,6 +370,7 @@ void frmGeneruj::Generuj() {
         // A stuck run goes on until "Konec"; the progress area says why no tip comes.
         volani.Uvaznuti = [this](const QString& zprava) {
             lblStav_Behu->setText(zprava + u" Volte \"Konec\"."_qs);
+            lblStav_Behu->show();
             return true;
         };
         vysledek = ::Generuj(z, Sezeni.Tipy.Soubor_Tipu, volani);
