@@ -22,6 +22,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -624,6 +625,9 @@ void frmAnalyzaTahu::Pripoj_Prikazy(frmMDITombi& ram) {
             ram.Zavri_Pro_Analyzu();
         auto* okno = ram.Otevri_Okno<frmAnalyzaTahu>(ram);
         frmVypisTahu::Otevri_Pro_Analyzu(ram, okno);
+        // A wide area gives the chart its width; the right edge stays for the viewer.
+        if (auto* ramecek = qobject_cast<QMdiSubWindow*>(okno->parentWidget()))
+            ramecek->resize(std::max(ramecek->width(), ram.Plocha()->viewport()->width() * 73 / 100), ramecek->height());
         if (sezeni.Nastaveni.Zapis_Analyzy != 0) {
             const Vysledek hlava = Zahlavi_Analyza(sezeni.Nastaveni, sezeni.Analyza.Analyza_Zahlavi, sezeni.Cas->Ted());
             // A file started anew empties the open viewer, which itself shows where the reports go.

@@ -1,21 +1,24 @@
 #include "analysis/frmAnalyzaTahu_Graf.h"
 
-#include "core/Dialogy.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
 #include "app/frmOvladani.h"
+#include "core/Dialogy.h"
 
 #include <QBarCategoryAxis>
 #include <QBarSeries>
 #include <QBarSet>
+#include <QCategoryAxis>
 #include <QChart>
 #include <QChartView>
 #include <QLabel>
+#include <QLegend>
+#include <QLegendMarker>
 #include <QLineSeries>
 #include <QPushButton>
-#include <QValueAxis>
+#include <QScatterSeries>
 #include <QVBoxLayout>
-
+#include <QValueAxis>
 #include <algorithm>
 #include <cmath>
 
@@ -24,6 +27,49 @@ namespace {
 const modNastaveni_Ovladani::Texty_Okna Okno{u"frmAnalyzaTahu"_qs};
 const QColor Barvy[2] = {QColor(0x2f, 0x6f, 0xb0), QColor(0xd0, 0x80, 0x30)};
 const QColor Vybrana(0xc0, 0x20, 0x30);
+
+// A step of 1, 2 or 5 times a power of ten that leaves at most about eight steps up to `nejvic`.
+double Krok_Osy(double nejvic) {
+    double krok = 1;
+    for (double mocnina = 1;; mocnina *= 10) {
+        for (const double nasobek : {1.0, 2.0, 5.0}) {
+            krok = nasobek * mocnina;
+            if (nejvic / krok <= 8)
+                return krok;
+        }
+    }
+}
+
+// The axis under the bars. A few categories are each labelled; a long row of numbers (1 to 49, or
+// the sums) is labelled at round values only, so that the labels stay level and readable.
+QAbstractAxis* Osa_Popisku(const QStringList& popisky, const QFont& pismo) {
+    constexpr int Nejvic_Popisku = 16;
+    if (popisky.size() <= Nejvic_Popisku) {
+        auto* osa = new QBarCategoryAxis;
+        osa->append(popisky);
+        osa->setLabelsFont(pismo);
+        return osa;
+    }
+    int krok = 1;
+    for (const int k : {2, 5, 10, 20, 25, 50, 100}) {
+        if (popisky.size() / krok <= 12)
+            break;
+        krok = k;
+    }
+    auto* osa = new QCategoryAxis;
+    osa->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    osa->setRange(-0.5, double(popisky.size()) - 0.5);
+    osa->setStartValue(-0.5);
+    for (qsizetype i = 0; i < popisky.size(); ++i) {
+        bool cislo = false;
+        const int hodnota = popisky[i].toInt(&cislo);
+        if (cislo ? hodnota % krok == 0 : i % krok == 0)
+            osa->append(popisky[i], double(i));
+    }
+    osa->setLabelsFont(pismo);
+    osa->setGridLineVisible(false);
+    return osa;
+}
 
 } // namespace
 
@@ -40,8 +86,9 @@ frmAnalyzaTahu_Graf::frmAnalyzaTahu_Graf(Relace& sezeni, QWidget* parent)
     Pohled->hide();
     cmdUlozit_Graf->setEnabled(false);
     connect(cmdUlozit_Graf, &QPushButton::clicked, this, [this] {
-        if (const auto cesta = Sezeni.Dialog->Ulozit_Soubor(u"Obrázek PNG (*.png)|*.png"_qs, Okno.Text(u"cmdUlozit_Graf"_qs),
-                                                            u"graf.png"_qs, Sezeni.Nastaveni.Adresare[3]))
+        if (const auto cesta =
+                Sezeni.Dialog->Ulozit_Soubor(u"Obrázek PNG (*.png)|*.png"_qs, Okno.Text(u"cmdUlozit_Graf"_qs),
+                                             u"graf.png"_qs, Sezeni.Nastaveni.Adresare[3]))
             Uloz_Png(*cesta);
     });
 }
@@ -49,6 +96,7 @@ frmAnalyzaTahu_Graf::frmAnalyzaTahu_Graf(Relace& sezeni, QWidget* parent)
 void frmAnalyzaTahu_Graf::Zobraz(const Graf_Analyzy& graf) {
     Posledni = graf;
     Sady = {};
+    Legenda_Vybranych = nullptr;
     const bool je = !graf.Popisky.isEmpty();
     Pohled->setVisible(je);
     lblBez_Grafu->setVisible(!je);
@@ -73,16 +121,18 @@ void frmAnalyzaTahu_Graf::Zobraz(const Graf_Analyzy& graf) {
     }
     sloupce->setBarWidth(0.95);
     graf_qt->addSeries(sloupce);
-    auto* osa_x = new QBarCategoryAxis;
-    osa_x->append(graf.Popisky);
     QFont male = font();
-    male.setPointSizeF(std::max(6.0, male.pointSizeF() - 2));
-    osa_x->setLabelsFont(male);
-    if (graf.Popisky.size() > 12)
-        osa_x->setLabelsAngle(-90);
+    male.setPointSizeF(std::max(6.0, male.pointSizeF() - 1));
+    QAbstractAxis* osa_x = Osa_Popisku(graf.Popisky, male);
+    // Counts are whole: the value axis steps by whole numbers, 1, 2, 5 or 10 times a power of ten.
+    const double krok = Krok_Osy(nejvic);
     auto* osa_y = new QValueAxis;
-    osa_y->setRange(0, nejvic > 0 ? nejvic * 1.1 : 1);
-    osa_y->setLabelFormat(u"%g"_qs);
+    osa_y->setRange(0, std::max(krok, std::ceil(nejvic * 1.05 / krok) * krok));
+    osa_y->setTickType(QValueAxis::TicksDynamic);
+    osa_y->setTickAnchor(0);
+    osa_y->setTickInterval(krok);
+    osa_y->setLabelFormat(u"%.0f"_qs);
+    osa_y->setLabelsFont(male);
     graf_qt->addAxis(osa_x, Qt::AlignBottom);
     graf_qt->addAxis(osa_y, Qt::AlignLeft);
     sloupce->attachAxis(osa_x);
@@ -104,6 +154,13 @@ void frmAnalyzaTahu_Graf::Zobraz(const Graf_Analyzy& graf) {
         prumer->attachAxis(osa_prumeru);
         prumer->attachAxis(osa_y);
     }
+    // The picked numbers' colour in the legend, as a series without points.
+    Legenda_Vybranych = new QScatterSeries;
+    Legenda_Vybranych->setName(Okno.Text(u"Graf_Vybrana"_qs));
+    Legenda_Vybranych->setColor(Vybrana);
+    Legenda_Vybranych->setBorderColor(Vybrana);
+    graf_qt->addSeries(Legenda_Vybranych);
+    graf_qt->legend()->setMarkerShape(QLegend::MarkerShapeRectangle);
     graf_qt->legend()->setAlignment(Qt::AlignBottom);
     graf_qt->legend()->setFont(male);
     graf_qt->setMargins(QMargins(2, 2, 2, 2));
@@ -114,6 +171,7 @@ void frmAnalyzaTahu_Graf::Zobraz(const Graf_Analyzy& graf) {
 }
 
 void frmAnalyzaTahu_Graf::Zvyrazni(const std::array<uint8_t, 50>& vybrana) {
+    bool nejaka = false;
     for (QBarSet* sada : Sady) {
         if (sada == nullptr)
             continue;
@@ -121,10 +179,15 @@ void frmAnalyzaTahu_Graf::Zvyrazni(const std::array<uint8_t, 50>& vybrana) {
         for (qsizetype i = 0; i < Posledni.Popisky.size(); ++i) {
             bool cislo = false;
             const int n = Posledni.Popisky[i].toInt(&cislo);
-            if (cislo && n >= 1 && n <= 49 && vybrana[std::size_t(n)] != 0)
+            if (cislo && n >= 1 && n <= 49 && vybrana[std::size_t(n)] != 0) {
                 sada->selectBar(int(i));
+                nejaka = true;
+            }
         }
     }
+    if (Legenda_Vybranych != nullptr && Pohled->chart() != nullptr)
+        for (QLegendMarker* znacka : Pohled->chart()->legend()->markers(Legenda_Vybranych))
+            znacka->setVisible(nejaka);
 }
 
 bool frmAnalyzaTahu_Graf::Uloz_Png(const QString& cesta) {

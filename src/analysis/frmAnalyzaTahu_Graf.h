@@ -6,7 +6,6 @@
 #include "analysis/Analyza_Tahu.h"
 
 #include <QWidget>
-
 #include <array>
 #include <cstdint>
 
@@ -14,6 +13,7 @@ class QBarSet;
 class QChartView;
 class QLabel;
 class QPushButton;
+class QScatterSeries;
 struct Relace;
 
 class frmAnalyzaTahu_Graf final : public QWidget {
@@ -37,4 +37,5 @@ private:
     Relace& Sezeni;
     Graf_Analyzy Posledni;
     std::array<QBarSet*, 2> Sady{};
+    QScatterSeries* Legenda_Vybranych = nullptr; // a legend entry for the picked numbers' colour
 };

@@ -2,7 +2,6 @@
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
-
 #include <algorithm>
 
 namespace frmMDITombi_Plocha {

@@ -38,6 +38,7 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -61,7 +62,7 @@ QWidget* Cetnost_52(bool graf) {
     static std::vector<std::unique_ptr<Prostredi>> prostredi_snimku;
     prostredi_snimku.push_back(std::make_unique<Prostredi>(QDate(2026, 11, 28)));
     Prostredi& prostredi = *prostredi_snimku.back();
-    prostredi.Spust().resize(1000, 720);
+    prostredi.Spust().resize(1366, 768);
     prostredi.Prikaz(u"mnuAnalyza"_qs)->trigger();
     auto* okno = prostredi.Okno->Najdi_Okno<frmAnalyzaTahu>();
     okno->txtPocet_1Tahu->setText(u"52"_qs);
@@ -71,6 +72,9 @@ QWidget* Cetnost_52(bool graf) {
         prostredi.Data->Vybrana_Cisla[7] = prostredi.Data->Vybrana_Cisla[36] = 1;
         okno->Graf->Zvyrazni(prostredi.Data->Vybrana_Cisla);
         okno->Zalozky->setCurrentIndex(1);
+        // Under the draw list the chart is reached by scrolling the area, as the user does.
+        QCoreApplication::processEvents();
+        prostredi.Okno->Plocha()->verticalScrollBar()->setValue(prostredi.Okno->Plocha()->verticalScrollBar()->maximum());
     }
     return prostredi.Okno.release();
 }
@@ -214,7 +218,7 @@ int main(int argc, char** argv) {
         {u"frmVypisAnalyz"_qs,
          [](QWidget*) -> QWidget* {
              static Prostredi prostredi(QDate(2026, 11, 26));
-             prostredi.Spust().resize(1000, 720);
+             prostredi.Spust().resize(1366, 768);
              prostredi.Data->Nastaveni.Zapis_Analyzy = 1;
              prostredi.Data->Nastaveni.Otevirat_Soubor = 1;
              prostredi.Prikaz(u"mnuAnalyza"_qs)->trigger();

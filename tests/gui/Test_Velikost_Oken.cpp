@@ -70,9 +70,9 @@ private slots:
 
     void Okna_Na_Notebooku_data() {
         QTest::addColumn<QString>("prikaz");
-        for (const char* prikaz : {"mnuOProgramu", "mnuHelp", "mnuPrehled", "mnuGenerujTipy", "frmVypisTipuVsech",
-                                   "mnuVyhodnoceniTipu", "mnuVlastniTipy", "mnuVypisTahu", "mnuRozsirSouborTahy",
-                                   "mnuAnalyza", "mnuVypisAnalyz"})
+        for (const char* prikaz :
+             {"mnuOProgramu", "mnuHelp", "mnuPrehled", "mnuGenerujTipy", "frmVypisTipuVsech", "mnuVyhodnoceniTipu",
+              "mnuVlastniTipy", "mnuVypisTahu", "mnuRozsirSouborTahy", "mnuAnalyza", "mnuVypisAnalyz"})
             QTest::newRow(prikaz) << QString::fromLatin1(prikaz);
     }
 
@@ -122,7 +122,8 @@ private slots:
             QWidget* posledni = Posledni_Prvek(podokno->widget());
             QVERIFY(posledni != nullptr);
             const QString popis = QString::fromLatin1(podokno->widget()->metaObject()->className()) + u' ' +
-                                  posledni->objectName() + u' ' + QString::fromLatin1(posledni->metaObject()->className());
+                                  posledni->objectName() + u' ' +
+                                  QString::fromLatin1(posledni->metaObject()->className());
             okno.Plocha()->setActiveSubWindow(podokno);
             QVERIFY2(Ukazany(*okno.Plocha(), posledni, false) || Ukazany(*okno.Plocha(), posledni, true),
                      qPrintable(popis));

@@ -5,19 +5,24 @@
 #include "analysis/Soubor_Analyzy.h"
 #include "analysis/frmAnalyzaTahu.h"
 #include "analysis/frmAnalyzaTahu_Graf.h"
-#include "core/Vb.h"
 #include "app/frmMDITombi_Stav.h"
+#include "core/Vb.h"
 
+#include <QCategoryAxis>
+#include <QChart>
 #include <QChartView>
 #include <QCheckBox>
 #include <QFile>
 #include <QLabel>
+#include <QLegend>
+#include <QLegendMarker>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <QTextEdit>
+#include <QValueAxis>
 
 namespace {
 
@@ -37,7 +42,8 @@ private slots:
         prostredi.Spust();
         frmAnalyzaTahu* okno = Otevri(prostredi);
         QVERIFY(okno != nullptr);
-        QCOMPARE(okno->windowTitle(), u"Analýza tahů - tahy zpětně"_qs + QString(20, u' ') + u"Četnost tažených čísel"_qs);
+        QCOMPARE(okno->windowTitle(),
+                 u"Analýza tahů - tahy zpětně"_qs + QString(20, u' ') + u"Četnost tažených čísel"_qs);
 
         // Every statistic over the newest 52 draws gives a report under its title; the thresholds
         // follow the size of the range when the settings say so.
@@ -71,9 +77,11 @@ private slots:
 
         // OD-DO and back: the cut of the caption loses one blank on the way back.
         okno->optVolba_Tydnu[1]->click();
-        QCOMPARE(okno->windowTitle(), u"Analýza tahů - tahy OD-DO"_qs + QString(20, u' ') + u"Četnost tažených čísel"_qs);
+        QCOMPARE(okno->windowTitle(),
+                 u"Analýza tahů - tahy OD-DO"_qs + QString(20, u' ') + u"Četnost tažených čísel"_qs);
         okno->optVolba_Tydnu[0]->click();
-        QCOMPARE(okno->windowTitle(), u"Analýza tahů - tahy zpětně"_qs + QString(19, u' ') + u"Četnost tažených čísel"_qs);
+        QCOMPARE(okno->windowTitle(),
+                 u"Analýza tahů - tahy zpětně"_qs + QString(19, u' ') + u"Četnost tažených čísel"_qs);
 
         // Numbers picked from a selection; "3x" at the end still gives 3, "12x" inside nothing.
         okno->RichTextBox1->setPlainText(u"12, 15, 12x 3x"_qs);
@@ -92,10 +100,32 @@ private slots:
         pdf.waitForFinished(30000);
         QVERIFY(QString::fromUtf8(pdf.readAllStandardOutput()).contains(u"Četnost tažených čísel"_qs));
 
-        // The chart of the frequency, saved as a picture.
+        // The chart of the frequency: whole counts up the side, level labels at round numbers
+        // under the bars, and the picked numbers' colour in the legend once a number is picked.
         okno->optTyp[0]->click();
         QTest::mouseClick(okno->cmdOK, Qt::LeftButton);
         QVERIFY(!okno->Graf->Pohled->isHidden());
+        QChart* graf = okno->Graf->Pohled->chart();
+        const auto* osa_y = qobject_cast<QValueAxis*>(graf->axes(Qt::Vertical).first());
+        QVERIFY(osa_y->tickType() == QValueAxis::TicksDynamic && osa_y->tickInterval() >= 1);
+        QCOMPARE(osa_y->tickInterval(), std::round(osa_y->tickInterval()));
+        QCOMPARE(osa_y->labelFormat(), u"%.0f"_qs);
+        auto* osa_x = qobject_cast<QCategoryAxis*>(graf->axes(Qt::Horizontal).first());
+        QVERIFY(osa_x != nullptr);
+        QCOMPARE(osa_x->categoriesLabels().first(), u"5"_qs);
+        QVERIFY(osa_x->count() <= 12 && osa_x->labelsAngle() == 0);
+        const auto vybrana = [graf] {
+            for (QLegendMarker* znacka : graf->legend()->markers())
+                if (znacka->label() == u"vybraná čísla"_qs)
+                    return znacka->isVisible();
+            return false;
+        };
+        prostredi.Data->Vybrana_Cisla.fill(0);
+        okno->Graf->Zvyrazni(prostredi.Data->Vybrana_Cisla);
+        QVERIFY(!vybrana());
+        prostredi.Data->Vybrana_Cisla[7] = 1;
+        okno->Graf->Zvyrazni(prostredi.Data->Vybrana_Cisla);
+        QVERIFY(vybrana());
         const QString png = prostredi.Cesta(u"graf.png"_qs);
         QVERIFY(okno->Graf->Uloz_Png(png));
         QVERIFY(QFile(png).size() > 1000);
