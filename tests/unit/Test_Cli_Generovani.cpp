@@ -61,14 +61,6 @@ private slots:
                                << u"Chybná hodnota volby --cas."_qs;
         QTest::newRow("rozsah 1,5") << QStringList{u"--rozsah"_qs, u"1,5"_qs} << 1
                                     << u"Rozsah čísel 1 - 5 je užší než 6 čísel, která tip potřebuje."_qs;
-        QTest::newRow("suma 290,280")
-            << QStringList{u"--suma"_qs, u"290,280"_qs} << 1
-            << u"Součet čísel tipu může být jen od 21 do 279; suma od 280 do 290 (bez krajních hodnot) nepropustí žádný tip."_qs;
-        QTest::newRow("sudlich 6,6,0") << QStringList{u"--sudlich"_qs, u"6,6,0"_qs} << 1
-                                       << u"Poměr sudých a lichých 6 / 6 s rozptylem 0 nedává tip o šesti číslech."_qs;
-        QTest::newRow("neopakovat v 15 cislech")
-            << QStringList{u"--neopakovat"_qs, u"--pouzit"_qs, u"1,2,3,4,5,6,7,8,9,10,11,12,13,14,15"_qs} << 1
-            << u"\"Neopakovat čísla v tiketu\" potřebuje 48 různých čísel, k losování je jich jen 15."_qs;
     }
     void Odmitnuti_Pred_Behem() {
         QFETCH(QStringList, volby);
