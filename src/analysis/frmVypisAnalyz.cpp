@@ -1,17 +1,17 @@
 #include "analysis/frmVypisAnalyz.h"
 
 #include "analysis/Soubor_Analyzy.h"
-#include "core/Dialogy.h"
 #include "app/Otevri_Dialog.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "core/Tabulka_Textu.h"
-#include "core/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmMDITombi.h"
 #include "app/frmMDITombi_Stav.h"
 #include "app/frmOvladani.h"
 #include "archive/frmVypisTahu.h"
+#include "core/Dialogy.h"
+#include "core/Tabulka_Textu.h"
+#include "core/Vb.h"
 #include "data/Nastaveni.h"
 #include "data/Soubory.h"
 #include "generator/frmGeneruj.h"
@@ -264,6 +264,7 @@ void frmVypisAnalyz::mnuSmazat_Click() {
     rtbVypis_Analyz[0]->clear();
     --Prace;
     Vybrano = 0;
+    Oznacena.fill(false);
     lblLista[1]->setText(u" vybráno -"_qs + Vb::Str(int64_t(0)));
     lblLista[0]->setText(u" celkem -"_qs + Vb::Str(int64_t(0)));
     if (Sezeni.Dialog->Otazka(Dialogy::Ikona::Otaznik, u"Uložení souboru"_qs, u"Uložit soubor \"Analyza.txt\" ?"_qs,
@@ -375,6 +376,7 @@ void frmVypisAnalyz::Odznacit() {
     vse.setCharFormat(text);
     Sezeni.Vybrana_Cisla.fill(0);
     Vybrano = 0;
+    Oznacena.fill(false);
     lblLista[1]->setText(u" vybráno -"_qs + Vb::Str(int64_t(0)));
     QTextCharFormat nadpis;
     nadpis.setFontWeight(QFont::Bold);
@@ -459,23 +461,26 @@ void frmVypisAnalyz::Oznac(const QString& token, const QString& obsah, QTextCurs
     // A number of a sum or a date is no number of the ticket: it is passed over.
     if (cislo < 1 || cislo > 49)
         return;
-    uint8_t& vybrano = Sezeni.Vybrana_Cisla[std::size_t(cislo)];
     const int delka = int(token.size());
-    const QString hledany = token + u' ';
     const QTextCharFormat znacka = Pismo_Vyberu();
-    bool nalezeno = false;
-    // A plain substring: "5, " also marks the tail of "15, ". A number before the line end has no
-    // blank behind its comma and stays unmarked; a find at the very start ends the search.
-    for (qsizetype i = obsah.indexOf(hledany); i > 0; i = obsah.indexOf(hledany, i + hledany.size())) {
-        if (vybrano == 0 && !nalezeno) {
+    // The whole number only: "6," inside "16," or "36," is another number, which the user did not
+    // pick. Whatever follows the comma, a blank, a tab or the line end, the number is the same.
+    for (qsizetype i = obsah.indexOf(token); i >= 0; i = obsah.indexOf(token, i + delka)) {
+        const bool cele =
+            (i == 0 || !obsah[i - 1].isDigit()) && (i + delka >= obsah.size() || !obsah[i + delka].isDigit());
+        if (!cele)
+            continue;
+        // Counted by what is marked here: with "SUMA výběru" the draw list has picked the number
+        // before it reaches the viewer.
+        if (!Oznacena[std::size_t(cislo)]) {
+            Oznacena[std::size_t(cislo)] = true;
             ++Vybrano;
-            nalezeno = true;
         }
         uprava.setPosition(int(i));
         uprava.setPosition(int(i) + delka, QTextCursor::KeepAnchor);
         uprava.mergeCharFormat(znacka);
     }
-    vybrano = 1;
+    Sezeni.Vybrana_Cisla[std::size_t(cislo)] = 1;
 }
 
 // ---- Menu ----

@@ -95,7 +95,8 @@ private:
     Relace& Sezeni;
     QStackedLayout* Kryt;
     bool Zmeneno = false;
-    int Vybrano = 0;
+    int Vybrano = 0;                 // how many numbers are marked in the text
+    std::array<bool, 50> Oznacena{}; // which, by number
     bool Jednotlive = false;
     bool Pocet_Radku_Prekrocen = false;
     int Delka_Textu = -1;

@@ -2,11 +2,11 @@
 
 #include "analysis/frmVypisAnalyz.h"
 #include "app/Relace.h"
-#include "core/Tabulka_Textu.h"
-#include "core/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmMDITombi.h"
 #include "app/modTombi.h"
+#include "core/Tabulka_Textu.h"
+#include "core/Vb.h"
 
 #include <QEvent>
 #include <QFrame>
@@ -184,5 +184,8 @@ void frmMDITombi_Stav::txtRozpisAktivni_Change(const QString& text) {
     if (vypis == nullptr)
         return;
     vypis->Vyber_Cisla(1, text.size() < 4 ? text + u',' : QString(text.mid(1)).replace(u' ', u", "_qs) + u',');
-    Sezeni.Vybrana_Cisla.fill(0);
+    // With "SUMA výběru" the picked numbers keep adding up; emptied, the next draw clicked would
+    // put its numbers alone into the picked list while the earlier ones stay marked here.
+    if (!(Sezeni.Formular_Otevren_Tahy && Sezeni.Suma_Vyberu))
+        Sezeni.Vybrana_Cisla.fill(0);
 }

@@ -8,21 +8,25 @@
 #include "analysis/frmAnalyzaTahu.h"
 #include "analysis/frmVypisAnalyz.h"
 #include "app/Sluzby_Oken.h"
-#include "core/Vb.h"
 #include "app/frmMDITombi_Sluzby.h"
 #include "app/frmMDITombi_Stav.h"
 #include "app/frmNeniProcedura.h"
+#include "archive/frmVypisTahu.h"
+#include "core/Vb.h"
 #include "data/Soubory.h"
 #include "generator/Vyber_Cisel.h"
 #include "generator/frmGeneruj.h"
 #include "generator/frmGeneruj_Vyber.h"
 
+#include <QCheckBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSet>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextEdit>
@@ -95,18 +99,17 @@ private slots:
         const QColor cervena(255, 0, 0);
         const QColor cerna(0, 0, 0);
 
-        // The numbers of a count line, not the count. "2," is marked where a blank follows it, so
-        // also as the tail of "12,"; "49," at the line end and "2," before a tab stay plain, yet
-        // 49 is picked.
+        // The numbers of a count line, not the count, each wherever it stands whole: before a
+        // blank, a tab or the line end, but not as the tail of "12,".
         Vyber(okno, u" 6x - 2, 25, 49,"_qs);
         QCOMPARE(Rozpis(prostredi), u" 2 25 49"_qs);
         QCOMPARE(prostredi.Okno->Stav()->txtPocet_Vybranych->text(), u"3"_qs);
-        QCOMPARE(okno->lblLista[1]->text(), u" vybráno - 2"_qs);
+        QCOMPARE(okno->lblLista[1]->text(), u" vybráno - 3"_qs);
         QCOMPARE(Barva(okno, u" 2, 25,"_qs), cervena);
-        QCOMPARE(Barva(okno, u" 12,"_qs, 1, 2), cervena);
+        QCOMPARE(Barva(okno, u" 12,"_qs, 1, 2), cerna);
         QCOMPARE(Barva(okno, u" 12,"_qs), cerna);
-        QCOMPARE(Barva(okno, u" 49,"_qs), cerna);
-        QCOMPARE(Barva(okno, u" 2,\t"_qs), cerna);
+        QCOMPARE(Barva(okno, u" 49,"_qs), cervena);
+        QCOMPARE(Barva(okno, u" 2,\t"_qs), cervena);
 
         // "Spojovat" adds, also from a row of pairs; a selection without a comma does nothing;
         // "Jednotlivě" replaces.
@@ -153,6 +156,31 @@ private slots:
         QCOMPARE(Barva(okno, u" 3,"_qs), cervena);
         QCOMPARE(Barva(okno, u" 12,"_qs), cervena);
         prostredi.Data->Formular_Otevren_Tahy = prostredi.Data->Suma_Vyberu = false;
+    }
+
+    // Draws clicked one after another with "SUMA výběru": every number marked in the viewer is in
+    // the picked list, the earlier draws' too.
+    void Suma_Vyberu_Tahu() {
+        Prostredi prostredi(QDate(2026, 11, 26));
+        prostredi.Spust();
+        QString text = Text_Souboru;
+        for (int n = 1; n <= 49; ++n)
+            text += u" 1x - "_qs + QString::number(n) + u",\r\n"_qs;
+        frmVypisAnalyz* okno = Otevri(prostredi, Vb::Do_1250(text));
+        prostredi.Prikaz(u"mnuVypisTahu"_qs)->trigger();
+        auto* tahy = prostredi.Okno->Najdi_Okno<frmVypisTahu>();
+        QVERIFY(okno != nullptr && tahy != nullptr);
+        tahy->Check1->setChecked(true);
+        QSet<QString> vsechna;
+        for (const int radek : {tahy->List1Tah->count() - 1, tahy->List1Tah->count() - 2}) {
+            tahy->List1Tah->setCurrentRow(radek);
+            for (const QString& n : Rozpis(prostredi).split(u' ', Qt::SkipEmptyParts))
+                vsechna.insert(n);
+            const QStringList rozpis = Rozpis(prostredi).split(u' ', Qt::SkipEmptyParts);
+            QCOMPARE(QSet<QString>(rozpis.begin(), rozpis.end()), vsechna);
+        }
+        QVERIFY(vsechna.size() > 6);
+        QCOMPARE(okno->lblLista[1]->text(), u" vybráno -"_qs + Vb::Str(int64_t(vsechna.size())));
     }
 
     void Soubor_Pismo_A_Misto() {
