@@ -3,16 +3,16 @@
 #include "analysis/Soubor_Analyzy.h"
 #include "analysis/frmAnalyzaTahu_Graf.h"
 #include "analysis/frmVypisAnalyz.h"
-#include "core/Dialogy.h"
-#include "core/Hodiny.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "core/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmMDITombi.h"
 #include "app/frmOvladani.h"
 #include "app/frmTiskarna.h"
 #include "archive/frmVypisTahu.h"
+#include "core/Dialogy.h"
+#include "core/Hodiny.h"
+#include "core/Vb.h"
 #include "data/Chyby_A_Prehled.h"
 
 #include <QCheckBox>
@@ -29,7 +29,6 @@
 #include <QTabWidget>
 #include <QTextEdit>
 #include <QVBoxLayout>
-
 #include <algorithm>
 #include <cmath>
 
@@ -59,15 +58,18 @@ frmAnalyzaTahu::frmAnalyzaTahu(frmMDITombi& ram, QWidget* parent)
       txtOd_Tah1(Okno.Pojmenuj(new QLineEdit(this), u"txtOd_Tah1"_qs)),
       txtDo_Tah1(Okno.Pojmenuj(new QLineEdit(this), u"txtDo_Tah1"_qs)),
       txtOd_Tah2(Okno.Pojmenuj(new QLineEdit(this), u"txtOd_Tah2"_qs)),
-      txtDo_Tah2(Okno.Pojmenuj(new QLineEdit(this), u"txtDo_Tah2"_qs)), Check1(Okno.Pojmenuj(new QCheckBox(this), u"Check1"_qs)),
-      chkDodatkova_Cisla(Okno.Pojmenuj(new QCheckBox(this), u"chkDodatkova_Cisla"_qs)),
-      Zalozky(new QTabWidget(this)), RichTextBox1(Okno.Pojmenuj(new QTextEdit(this), u"RichTextBox1"_qs)),
+      txtDo_Tah2(Okno.Pojmenuj(new QLineEdit(this), u"txtDo_Tah2"_qs)),
+      Check1(Okno.Pojmenuj(new QCheckBox(this), u"Check1"_qs)),
+      chkDodatkova_Cisla(Okno.Pojmenuj(new QCheckBox(this), u"chkDodatkova_Cisla"_qs)), Zalozky(new QTabWidget(this)),
+      RichTextBox1(Okno.Pojmenuj(new QTextEdit(this), u"RichTextBox1"_qs)),
       Graf(new frmAnalyzaTahu_Graf(ram.Sezeni(), this)),
       txtVypisAnalyzyTahuPopis(Okno.Pojmenuj(new QLabel(this), u"txtVypisAnalyzyTahuPopis"_qs)),
-      lblSude(Okno.Pojmenuj(new QLabel(this), u"lblSude"_qs)), lblLiche(Okno.Pojmenuj(new QLabel(this), u"lblLiche"_qs)),
-      cmdVymaz(Okno.Pojmenuj(new QPushButton(this), u"cmdVymaz"_qs)), cmdTisk(Okno.Pojmenuj(new QPushButton(this), u"cmdTisk"_qs)),
-      cmdOK(Okno.Pojmenuj(new QPushButton(this), u"cmdOK"_qs)), cmdZrusit(Okno.Pojmenuj(new QPushButton(this), u"cmdZrusit"_qs)),
-      Ram(ram), Sezeni(ram.Sezeni()) {
+      lblSude(Okno.Pojmenuj(new QLabel(this), u"lblSude"_qs)),
+      lblLiche(Okno.Pojmenuj(new QLabel(this), u"lblLiche"_qs)),
+      cmdVymaz(Okno.Pojmenuj(new QPushButton(this), u"cmdVymaz"_qs)),
+      cmdTisk(Okno.Pojmenuj(new QPushButton(this), u"cmdTisk"_qs)),
+      cmdOK(Okno.Pojmenuj(new QPushButton(this), u"cmdOK"_qs)),
+      cmdZrusit(Okno.Pojmenuj(new QPushButton(this), u"cmdZrusit"_qs)), Ram(ram), Sezeni(ram.Sezeni()) {
     setObjectName(Okno.Jmeno);
     modNastaveni_Ovladani::Napoveda(this, u"Anal"_qs);
     Sezeni.Formular_Otevren_Analyza = true;
@@ -169,7 +171,8 @@ QWidget* frmAnalyzaTahu::Rozsah() {
     mrizka->addWidget(txtOd_Tah2, 3, 1);
     mrizka->addWidget(txtDo_Tah2, 3, 2);
     mrizka->addWidget(Check1, 4, 0, 1, 3);
-    const std::array<QLineEdit*, 6> pole{txtPocet_1Tahu, txtPocet_2Tahu, txtOd_Tah1, txtDo_Tah1, txtOd_Tah2, txtDo_Tah2};
+    const std::array<QLineEdit*, 6> pole{txtPocet_1Tahu, txtPocet_2Tahu, txtOd_Tah1,
+                                         txtDo_Tah1,     txtOd_Tah2,     txtDo_Tah2};
     for (QLineEdit* p : pole) {
         p->setMaximumWidth(sirka);
         p->setMaxLength(5);
@@ -565,14 +568,14 @@ void frmAnalyzaTahu::Analyza_Automaticky() {
     const std::array<int16_t, 10>& zvolene = Sezeni.Nastaveni.Auto_Analyza;
     // Entries of the settings' list in the order they run, with the statistic of each.
     constexpr std::array<std::pair<int, ::Typ_Analyzy>, 9> poradi{{{0, ::Typ_Analyzy::Cetnost_Cisel},
-                                                                 {1, ::Typ_Analyzy::Cetnost_Dodatkovych},
-                                                                 {2, ::Typ_Analyzy::Dvojice_Cisel},
-                                                                 {3, ::Typ_Analyzy::Trojice_Cisel},
-                                                                 {4, ::Typ_Analyzy::Dvojice_Cisel_Volne},
-                                                                 {5, ::Typ_Analyzy::Prumerne_Tazeno},
-                                                                 {6, ::Typ_Analyzy::Sloupce_Radky},
-                                                                 {8, ::Typ_Analyzy::Suda_Licha},
-                                                                 {9, ::Typ_Analyzy::Suma_Tahu}}};
+                                                                   {1, ::Typ_Analyzy::Cetnost_Dodatkovych},
+                                                                   {2, ::Typ_Analyzy::Dvojice_Cisel},
+                                                                   {3, ::Typ_Analyzy::Trojice_Cisel},
+                                                                   {4, ::Typ_Analyzy::Dvojice_Cisel_Volne},
+                                                                   {5, ::Typ_Analyzy::Prumerne_Tazeno},
+                                                                   {6, ::Typ_Analyzy::Sloupce_Radky},
+                                                                   {8, ::Typ_Analyzy::Suda_Licha},
+                                                                   {9, ::Typ_Analyzy::Suma_Tahu}}};
     Vypis_Analyz.clear();
     bool probehlo = false;
     otpTypVypisu[1]->setChecked(true);
@@ -606,7 +609,9 @@ void frmAnalyzaTahu::Analyza_Automaticky() {
     otpTypVypisu[0]->setChecked(true);
     Zvol_Typ(0);
     if (!probehlo)
-        Sezeni.Sluzby->Zprava(u"Definujte proces automatické analýzy v \"Nastavení.\""_qs);
+        Sezeni.Sluzby->Zprava(
+            u"Automatická analýza nemá zvolenou žádnou analýzu. Volba přijde s oknem \"Nastavení\" v další verzi; "
+            u"zatím zvolte typ analýzy v tomto okně a stiskněte \"Budiž\"."_qs);
 }
 
 // ---- Commands ----
@@ -627,7 +632,8 @@ void frmAnalyzaTahu::Pripoj_Prikazy(frmMDITombi& ram) {
         frmVypisTahu::Otevri_Pro_Analyzu(ram, okno);
         // A wide area gives the chart its width; the right edge stays for the viewer.
         if (auto* ramecek = qobject_cast<QMdiSubWindow*>(okno->parentWidget()))
-            ramecek->resize(std::max(ramecek->width(), ram.Plocha()->viewport()->width() * 73 / 100), ramecek->height());
+            ramecek->resize(std::max(ramecek->width(), ram.Plocha()->viewport()->width() * 73 / 100),
+                            ramecek->height());
         if (sezeni.Nastaveni.Zapis_Analyzy != 0) {
             const Vysledek hlava = Zahlavi_Analyza(sezeni.Nastaveni, sezeni.Analyza.Analyza_Zahlavi, sezeni.Cas->Ted());
             // A file started anew empties the open viewer, which itself shows where the reports go.

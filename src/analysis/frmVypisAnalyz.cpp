@@ -44,6 +44,16 @@ constexpr double Vychozi_Sirka = 5200;
 // The room under the text for the row of counts.
 constexpr double Mezera_Pod_Textem = 30;
 
+// No file to show. While the reports are not written to it, which is the default and can be
+// changed only in the settings window to come, the user is told where the reports are meanwhile.
+QString Bez_Souboru(const Nastaveni_Zaznam& n) {
+    QString text = u"Není soubor \"Analyza.txt\""_qs;
+    if (n.Zapis_Analyzy == 0)
+        text += u". Zápis analýz do něj je ve výchozím nastavení vypnutý a zapne ho okno \"Nastavení\" v další "
+                u"verzi; výsledky analýz zatím ukazuje okno Tahy - Analýza (Výpis, Graf, Tisk)."_qs;
+    return text;
+}
+
 // The headings of the ten reports, marked bold and underlined wherever they stand.
 const std::array<QString, 10> Nadpisy{
     u"Četnost tažených čísel"_qs,
@@ -222,7 +232,7 @@ void frmVypisAnalyz::Uloz_Misto() {
 void frmVypisAnalyz::Otevri_Soubor_Anal() {
     const Nacteny_Soubor soubor = Nacti_Soubor(Cesta_Analyzy(Sezeni.Nastaveni), Nejvic_Textu);
     if (!soubor.Ok()) {
-        Sezeni.Sluzby->Zprava(soubor.Nelze_Otevrit ? u"Není soubor \"Analyza.txt\""_qs : soubor.Zprava(Soubor_Analyzy));
+        Sezeni.Sluzby->Zprava(soubor.Nelze_Otevrit ? Bez_Souboru(Sezeni.Nastaveni) : soubor.Zprava(Soubor_Analyzy));
         return;
     }
     RT_Box_Zap(0);
@@ -529,7 +539,7 @@ frmVypisAnalyz* frmVypisAnalyz::Otevri(frmMDITombi& ram) {
     if (ram.Najdi_Okno<frmVypisAnalyz>() != nullptr)
         return ram.Otevri_Okno<frmVypisAnalyz>(ram);
     if (!QFileInfo(Cesta_Analyzy(ram.Sezeni().Nastaveni)).isFile()) {
-        ram.Sezeni().Sluzby->Zprava(u"Není soubor \"Analyza.txt\""_qs);
+        ram.Sezeni().Sluzby->Zprava(Bez_Souboru(ram.Sezeni().Nastaveni));
         return nullptr;
     }
     auto* okno = ram.Otevri_Okno<frmVypisAnalyz>(ram);

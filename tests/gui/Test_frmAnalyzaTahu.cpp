@@ -154,7 +154,9 @@ private slots:
         // Nothing chosen: the message.
         n.Auto_Analyza = {};
         okno->Analyza_Automaticky();
-        QCOMPARE(prostredi.Oznameni().last(), u"Definujte proces automatické analýzy v \"Nastavení.\""_qs);
+        QCOMPARE(prostredi.Oznameni().last(),
+                 u"Automatická analýza nemá zvolenou žádnou analýzu. Volba přijde s oknem \"Nastavení\" v další verzi; "
+                 u"zatím zvolte typ analýzy v tomto okně a stiskněte \"Budiž\"."_qs);
     }
 };
 

@@ -134,8 +134,11 @@ private slots:
         // Without a range of draws the history asks for the setting.
         sezeni.Nastaveni.Pocet_Tahu_Analyzovat.clear();
         panel.Klik_Cisla(4, u" 4"_qs);
-        QCOMPARE(prostredi.Oznameni(),
-                 QStringList{u"Pro analýzu v tazích, nastavte počet týdnů v \"Nastavení - TiP\""_qs});
+        QCOMPARE(
+            prostredi.Oznameni(),
+            QStringList{
+                u"Pro analýzu v tazích je třeba počet týdnů z okna \"Nastavení - TiP\", které přijde v další verzi. "
+                u"Kdy a kolikrát čísla padla, zatím ukáže okno Tahy - Analýza (Interval čísla, Četnost tažených čísel)."_qs});
     }
 };
 
