@@ -83,6 +83,10 @@ private slots:
             QCOMPARE(patek.Data->Archiv.Soubor_Tahu, u"SpP_tahy.sez"_qs);
             QCOMPARE(patek.Data->Archiv.Rok_Zacatek_1, int16_t(2020));
             QCOMPARE(std::pair(patek.Data->Archiv.Pocet_Tahy_1, patek.Data->Archiv.Pocet_Tahy_2), std::pair(418, 418));
+            // The help tells the same of a Friday start.
+            patek.Prikaz(u"mnuHelp"_qs)->trigger();
+            const QString napoveda = patek.Okno->Najdi_Okno<frmNapoveda>()->findChild<QTextBrowser*>()->toPlainText();
+            QVERIFY(napoveda.contains(u"v pátek načte páteční archiv SpP_tahy.sez a ve stavovém pruhu svítí „PÁTEK“"_qs));
         }
 
         Prostredi sobota(Sobota);
