@@ -172,11 +172,14 @@ void frmAnalyzaTahu_Graf::Zobraz(const Graf_Analyzy& graf) {
 
 void frmAnalyzaTahu_Graf::Zvyrazni(const std::array<uint8_t, 50>& vybrana) {
     bool nejaka = false;
+    // Only a chart over the numbers 1 to 49 has bars of numbers: a sum of 36 is no number 36.
+    const bool cisla = Posledni.Popisky.size() == 49 && Posledni.Popisky.front() == u"1"_qs &&
+                       Posledni.Popisky.back() == u"49"_qs;
     for (QBarSet* sada : Sady) {
         if (sada == nullptr)
             continue;
         sada->deselectAllBars();
-        for (qsizetype i = 0; i < Posledni.Popisky.size(); ++i) {
+        for (qsizetype i = 0; cisla && i < Posledni.Popisky.size(); ++i) {
             bool cislo = false;
             const int n = Posledni.Popisky[i].toInt(&cislo);
             if (cislo && n >= 1 && n <= 49 && vybrana[std::size_t(n)] != 0) {
