@@ -173,8 +173,8 @@ void frmAnalyzaTahu_Graf::Zobraz(const Graf_Analyzy& graf) {
 void frmAnalyzaTahu_Graf::Zvyrazni(const std::array<uint8_t, 50>& vybrana) {
     bool nejaka = false;
     // Only a chart over the numbers 1 to 49 has bars of numbers: a sum of 36 is no number 36.
-    const bool cisla = Posledni.Popisky.size() == 49 && Posledni.Popisky.front() == u"1"_qs &&
-                       Posledni.Popisky.back() == u"49"_qs;
+    const bool cisla =
+        Posledni.Popisky.size() == 49 && Posledni.Popisky.front() == u"1"_qs && Posledni.Popisky.back() == u"49"_qs;
     for (QBarSet* sada : Sady) {
         if (sada == nullptr)
             continue;
