@@ -43,7 +43,7 @@ QWidget* Posledni_Prvek(QWidget* okno) {
     return posledni;
 }
 
-// Whether the whole control lies in the area's view with the scroll bars at `k`: 0 or their end.
+// Whether the whole control lies in the area's view with its scroll bars at 0 or at their end.
 bool Ukazany(QMdiArea& plocha, QWidget* prvek, bool na_konci) {
     for (QScrollBar* posuvnik : {plocha.horizontalScrollBar(), plocha.verticalScrollBar()})
         posuvnik->setValue(na_konci ? posuvnik->maximum() : 0);
