@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -251,7 +252,11 @@ int Vyhodnoceni(const QStringList& args) {
     double vklad = double(Pocet_Tipu_V_Souboru(soubor)) * cena_tipu;
     switch (v.Typ) {
     case Druh::Nahodny_Los: {
-        Random nahoda;
+        // A given seed starts its own source, so every seed draws its own numbers.
+        std::optional<Zdroj_Seminka> zdroj_seminka;
+        if (seminko)
+            zdroj_seminka.emplace(uint64_t(*seminko));
+        Random nahoda = zdroj_seminka ? Random(*zdroj_seminka) : Random();
         nahoda.Dolni_Mez = 1;
         nahoda.Horni_Mez = 49;
         if (seminko)
