@@ -1,31 +1,13 @@
 // tombi-cli generate where the filters cannot be met, the counts do not fit, or a number repeats:
 // the header tells the tips made, what no tip can pass is refused at once, a stuck run ends.
 #include "Bajty.h"
+#include "Spust_Cli.h"
 #include "data/Soubor_Tipu.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 #include <memory>
-
-namespace {
-
-struct Beh {
-    int Kod = -1;
-    QStringList Radky;
-    QString Chyby;
-};
-
-Beh Spust(const QStringList& argumenty) {
-    QProcess p;
-    p.start(QStringLiteral(TOMBI_CLI), argumenty);
-    p.waitForFinished(60000);
-    return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts),
-            QString::fromUtf8(p.readAllStandardError())};
-}
-
-} // namespace
 
 class Test_Cli_Generovani final : public QObject {
     Q_OBJECT

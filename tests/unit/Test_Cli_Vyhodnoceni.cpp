@@ -1,31 +1,13 @@
 // tombi-cli evaluate where a script could be told a wrong number: the stake of a file whose header
 // counts otherwise than its tips, drawn rows that repeat a number, and the win list written fast.
 #include "Bajty.h"
+#include "Spust_Cli.h"
 #include "data/Soubor_Tipu.h"
 #include "data/Soubory.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 #include <memory>
-
-namespace {
-
-struct Beh {
-    int Kod = -1;
-    QStringList Radky;
-    QString Chyby;
-};
-
-Beh Spust(const QStringList& argumenty) {
-    QProcess p;
-    p.start(QStringLiteral(TOMBI_CLI), argumenty);
-    p.waitForFinished(60000);
-    return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts),
-            QString::fromUtf8(p.readAllStandardError())};
-}
-
-} // namespace
 
 class Test_Cli_Vyhodnoceni final : public QObject {
     Q_OBJECT

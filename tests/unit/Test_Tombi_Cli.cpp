@@ -1,40 +1,17 @@
 // tombi-cli as a script sees it: its exit codes, its Czech messages on stderr, and the exact lines it
 // prints for archives and tip files.
 #include "Bajty.h"
+#include "Spust_Cli.h"
 #include "data/Soubor_Tipu.h"
 #include "data/Soubory.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cstdio>
-#include <functional>
 #include <memory>
 #include <sys/resource.h>
-
-namespace {
-
-struct Beh {
-    int Kod = -1;
-    QStringList Radky;
-    QString Chyby;
-};
-
-// Runs tombi-cli, or `program`; `v_potomkovi` runs in the child before the program starts.
-Beh Spust(const QStringList& argumenty, const QString& program = QStringLiteral(TOMBI_CLI),
-          const std::function<void()>& v_potomkovi = {}) {
-    QProcess p;
-    if (v_potomkovi)
-        p.setChildProcessModifier(v_potomkovi);
-    p.start(program, argumenty);
-    p.waitForFinished(60000);
-    return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts),
-            QString::fromUtf8(p.readAllStandardError())};
-}
-
-} // namespace
 
 class Test_Tombi_Cli final : public QObject {
     Q_OBJECT
