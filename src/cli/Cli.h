@@ -56,3 +56,8 @@ int Analyza(const QStringList& args);
 // archive SOUBOR.sez --pridej|--oprav|--smaz ...: the editor of the draw list.
 bool Je_Uprava_Archivu(const QStringList& args);
 int Uprava_Archivu(const QStringList& args);
+// tips --append|--sort|--export|--import ...: the operations on a whole tip file.
+bool Je_Operace_Tipu(const QStringList& args);
+int Operace_Tipu(const QStringList& args);
+// wheel INDEX | wheel --rzp FILE: the wheels, their guarantees and their expansion.
+int Rozpisy(const QStringList& args);

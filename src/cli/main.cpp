@@ -127,6 +127,8 @@ int Archiv(const QStringList& args) {
 }
 
 int Tipy(const QStringList& args) {
+    if (Je_Operace_Tipu(args))
+        return Operace_Tipu(args);
     const Argumenty a = Rozeber(args, {}, {u"--convert"_qs});
     if (!a.Chyba.isEmpty() || a.Pozicni.size() != 1)
         return Spatne_Pouziti(a.Chyba);
@@ -195,6 +197,8 @@ int main(int argc, char** argv) {
         return Archiv(args);
     if (prikaz == u"tips")
         return Tipy(args);
+    if (prikaz == u"wheel")
+        return Rozpisy(args);
     if (prikaz == u"cfg")
         return Nastaveni(args);
     if (prikaz == u"generate")
