@@ -8,10 +8,10 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QMutex>
-
 #include <algorithm>
 #include <cstring>
 #include <map>
+#include <optional>
 
 namespace {
 
@@ -167,6 +167,13 @@ Vysledek Nacti_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QString& 
 }
 
 Vysledek Uloz_Tahy(const Archiv_Tahu& archiv, const QString& adresar, const QString& soubor) {
+    // A whole archive written over the live one waits for an edit in progress, as every writer does;
+    // where the folder is missing there is nothing to wait for, and the writer tells why it fails.
+    std::optional<Zamek_Archivu> zamek;
+    if (QFileInfo(adresar).isDir())
+        zamek.emplace(adresar, soubor);
+    if (zamek && !zamek->Chyba().isEmpty())
+        return Vysledek::Chyba(zamek->Chyba());
     return Uloz_Soubor(Spoj_Cestu(adresar, soubor), Zapis_Roky(archiv.Pole_Tahu, Platny_Pocet_Let(archiv)));
 }
 

@@ -82,7 +82,7 @@ QByteArray Zapis_Roky(const std::vector<Rok_Zaznam>& roky, int pocet_let);
 // a folder, a device or a file above Nejvic_Archivu is refused with its reason. The flat lists are
 // the caller's to rebuild.
 Vysledek Nacti_Tahy(Archiv_Tahu& archiv, const QString& adresar, const QString& soubor);
-// Writes Pocet_Let records to adresar/soubor, replacing the old file whole or not at all.
+// Writes Pocet_Let records to adresar/soubor under its lock, replacing the old file whole or not at all.
 Vysledek Uloz_Tahy(const Archiv_Tahu& archiv, const QString& adresar, const QString& soubor);
 // Makes adresar/soubor its .zal (one generation: the older backup goes). With druh 0 the file is
 // renamed and no live file stands afterwards. With druh 1 the live file is written anew from the

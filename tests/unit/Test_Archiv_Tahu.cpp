@@ -115,8 +115,9 @@ private slots:
         // A file that is there but is no archive is refused with its reason, unread.
         QFile velky(dir.filePath(u"SpN_tahy.sez"_qs));
         QVERIFY(velky.open(QIODevice::WriteOnly) && velky.resize(32 * 1024 * 1024 + 1));
-        QCOMPARE(Nacti_Tahy(a, dir.path(), u"SpN_tahy.sez"_qs).Zprava,
-                 u"Soubor \"SpN_tahy.sez\" nelze načíst: má 33 554 433 bajtů, soubor tohoto druhu může mít nejvýše 32 MiB."_qs);
+        QCOMPARE(
+            Nacti_Tahy(a, dir.path(), u"SpN_tahy.sez"_qs).Zprava,
+            u"Soubor \"SpN_tahy.sez\" nelze načíst: má 33 554 433 bajtů, soubor tohoto druhu může mít nejvýše 32 MiB."_qs);
         QVERIFY(QDir(dir.path()).mkdir(u"SpS_tahy.sez"_qs));
         QCOMPARE(Nacti_Tahy(a, dir.path(), u"SpS_tahy.sez"_qs).Zprava,
                  u"Soubor \"SpS_tahy.sez\" nelze načíst: je to složka, ne soubor."_qs);
@@ -132,8 +133,10 @@ private slots:
         const QString nelze = u"Soubor \"%1\" nelze zapsat: "_qs;
 
         QCOMPARE(uloz(dir.filePath(u"neni"_qs), u"x.sez"_qs).Zprava,
-                 nelze.arg(dir.filePath(u"neni/x.sez"_qs)) + u"složka \"%1\" neexistuje."_qs.arg(dir.filePath(u"neni"_qs)));
-        QCOMPARE(uloz(dir.path(), u"slozka"_qs).Zprava, nelze.arg(dir.filePath(u"slozka"_qs)) + u"je to složka, ne soubor."_qs);
+                 nelze.arg(dir.filePath(u"neni/x.sez"_qs)) +
+                     u"složka \"%1\" neexistuje."_qs.arg(dir.filePath(u"neni"_qs)));
+        QCOMPARE(uloz(dir.path(), u"slozka"_qs).Zprava,
+                 nelze.arg(dir.filePath(u"slozka"_qs)) + u"je to složka, ne soubor."_qs);
         QCOMPARE(Pri_Plnem_Disku(956 + 100, [&] { return uloz(dir.path(), u"SpS_tahy.sez"_qs); }).Zprava,
                  nelze.arg(cesta) + u"soubor by byl větší, než systém dovoluje."_qs);
         QCOMPARE(Obsah_Souboru(cesta), Rok_Bajty(2010));
@@ -143,7 +146,10 @@ private slots:
         Vysledek bez_prav;
         if (!Podle_Prav_Souboru([&] { bez_prav = uloz(dir.filePath(u"slozka"_qs), u"x.sez"_qs); }))
             QSKIP("Práva souborů zde nelze uplatnit.");
-        QCOMPARE(bez_prav.Zprava, nelze.arg(dir.filePath(u"slozka/x.sez"_qs)) + u"chybí oprávnění k zápisu."_qs);
+        // The lock beside the archive is the first thing written, so it tells.
+        QCOMPARE(bez_prav.Zprava,
+                 u"Archiv tahů \"x.sez\" nelze zamknout pro zápis: do složky \"%1\" chybí oprávnění k zápisu."_qs.arg(
+                     dir.filePath(u"slozka"_qs)));
     }
 
     void zaloha_a_obnova() {
