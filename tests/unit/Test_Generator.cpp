@@ -316,7 +316,8 @@ private slots:
         QCOMPARE(v.Konec, Konec_Behu::Zastaveno);
         QCOMPARE(zpravy.size(), 1);
         QVERIFY2(zpravy[0].contains(u"\"sudá / lichá / rozptyl\""_qs), qPrintable(zpravy[0]));
-        volani = Obnovy().Volani(100000);
+        Obnovy obnovy;
+        volani = obnovy.Volani(100000);
         volani.Uvaznuti = [](const QString&) { return false; };
         v = Generuj(z, s, volani);
         QCOMPARE(v.Konec, Konec_Behu::Nelze_Dokoncit);
