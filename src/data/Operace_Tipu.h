@@ -29,6 +29,6 @@ QByteArray Export_Tipu(const Stav_Tipu& stav, const Prubeh& prubeh = {});
 // Nacti_Import, the reading: lines in capitals, those holding "REM" dropped, each kept line + CR LF.
 QByteArray Text_Importu(const QByteArray& soubor);
 // Import_Tipu, the walk: six numbers in a row make a tip, any non-digit separates. Fills a cleared
-// store; a count not divisible by six or a fault (a value above 255, a 951st ticket) gives the
-// message and a store of zero tickets.
+// store; a count not divisible by six, a tip outside 1..49 or with a repeated number, or a fault
+// (a value above 255, a 951st ticket) gives the message and leaves the store as it was.
 Vysledek Import_Tipu(const QByteArray& text, Stav_Tipu& stav);

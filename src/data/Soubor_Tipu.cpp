@@ -145,6 +145,17 @@ Zaznam_Tipu Preved_Stary_Zaznam(const Stary_Zaznam_Tipu& stary, const Prubeh& pr
     return novy;
 }
 
+int Pocet_Tipu_V_Souboru(const Zaznam_Tipu& tipy) {
+    int pocet = 0;
+    for (int i = 1; i <= std::min<int>(tipy.Pocet_Tiketu, Max_Tiketu); ++i)
+        for (int c = 1; c <= Sloupcu_Tiketu; ++c) {
+            if (tipy.Tikety[i].Cisla[c][1] == 0)
+                return pocet;
+            ++pocet;
+        }
+    return pocet;
+}
+
 Vysledek Nacti_Soubor_Tipu(Stav_Tipu& stav, const QString& cesta, Otevreni otevreni) {
     const QString jmeno = Jmeno_Bez_Adresare(cesta);
     const Nacteny_Soubor soubor = Nacti_Soubor(cesta, Nejvic_Souboru_Tipu);

@@ -65,6 +65,9 @@ inline constexpr qint64 Nejvic_Souboru_Tipu = 1024 * 1024;
 // past the end gets what is there (a negative length counts as 0), bytes past the record are
 // ignored. Any bytes are accepted.
 Zaznam_Tipu Cti_Zaznam_Tipu(const QByteArray& bajty);
+// The tips the store holds, up to the first empty column, whatever its header says: the stake is
+// paid for these, and the list shows these.
+int Pocet_Tipu_V_Souboru(const Zaznam_Tipu& tipy);
 Stary_Zaznam_Tipu Cti_Stary_Zaznam_Tipu(const QByteArray& bajty);
 // Exactly Delka_Zaznamu_Tipu + the length of the list name in code page 1250.
 QByteArray Zapis_Zaznam_Tipu(const Zaznam_Tipu& zaznam);

@@ -32,17 +32,6 @@ bool Zarad_Vyhru(Vyhry& vyhry, int h, int s, int& poradi) {
     return true;
 }
 
-int Pocet_Tipu_V_Souboru(const Zaznam_Tipu& tipy) {
-    int pocet = 0;
-    for (int i = 1; i <= std::min<int>(tipy.Pocet_Tiketu, Max_Tiketu); ++i)
-        for (int c = 1; c <= Sloupcu_Tiketu; ++c) {
-            if (tipy.Tikety[i].Cisla[c][1] == 0)
-                return pocet;
-            ++pocet;
-        }
-    return pocet;
-}
-
 std::optional<int> Opakovane_Cislo(const Radek_Tahu& radek) {
     for (std::size_t i = 0; i < radek.size(); ++i)
         for (std::size_t j = i + 1; j < radek.size(); ++j)

@@ -57,9 +57,6 @@ struct Vysledek_Vyhodnoceni {
 // as it stood (the caller's tier variable). True when a tier was placed.
 bool Zarad_Vyhru(Vyhry& vyhry, int h, int s, int& poradi);
 
-// The tips the store holds, up to the first empty column, whatever its header says: the stake is
-// paid for these.
-int Pocet_Tipu_V_Souboru(const Zaznam_Tipu& tipy);
 
 // A row of seven boxes, the seventh the supplementary number; 0 is an empty box.
 using Radek_Tahu = std::array<int, 7>;
