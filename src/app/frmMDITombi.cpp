@@ -227,8 +227,7 @@ bool frmMDITombi::Je_Nehotovy(const QAction* prikaz) const {
     // Commands whose windows are still to come stay off; a command is switched on by taking it
     // out of this list once its window connects it.
     const QAction* const nehotove[] = {
-        mnuPripojSouborTipu, mnuSetriditSouborTipu,
-        mnuExportTipu,       mnuImportTipu,         mnuTiskTiketu,
+        mnuTiskTiketu,
         mnuDownload,           mnuOtevriSeznam,
         mnuNovySeznam,       mnuVypisSeznamu,       mnuUvolnit,     mnuKonfigurace,     mnuWebTombiNovaVer,
     };

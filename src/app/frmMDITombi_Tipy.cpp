@@ -5,8 +5,9 @@
 #include "app/Sluzby_Oken.h"
 #include "app/frmMDITombi.h"
 #include "data/Nedavne_Soubory.h"
+#include "data/Operace_Tipu.h"
 #include "data/Soubory.h"
-#include "tips/Vyhodnoceni.h"
+#include "tips/frmVypisTipu.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -71,10 +72,115 @@ void mnuKonverzeSouboruTipu_Click(frmMDITombi& ram) {
     Po_Nacteni(ram, cesta);
 }
 
+// The store changed under the tip list: it shows the new store, or opens when `otevrit`. A change
+// is unsaved until the tip list writes the file.
+void Ukaz_Tipy(frmMDITombi& ram, bool otevrit, bool zmena = true) {
+    Stav_Tipu& tipy = ram.Sezeni().Tipy;
+    if (zmena)
+        ram.Sezeni().Tikety.Zmena_Dat = true;
+    ram.Sezeni().Sluzby->Nastav_Soubor_Tipu(QString::number(tipy.Pocet_Tipu_Aktivni));
+    if (ram.Najdi_Okno<frmVypisTipu>() != nullptr) {
+        ram.Zavri_Okno<frmVypisTipu>();
+        otevrit = true;
+    }
+    if (otevrit)
+        emit ram.Tipy_Otevreny();
+}
+
+void mnuPripojSouborTipu_Click(frmMDITombi& ram) {
+    Relace& relace = ram.Sezeni();
+    Stav_Tipu& tipy = relace.Tipy;
+    if (Pocet_Tipu_V_Souboru(tipy.Soubor_Tipu) >= Max_Tiketu * Sloupcu_Tiketu) {
+        relace.Sluzby->Zprava(Text_Max_Tipu_Pripojeni);
+        return;
+    }
+    QString cesta;
+    bool vybrano = false;
+    Otevri_Dialog(relace, 0, u"Soubory tipů (*.tip)|*.tip"_qs, u"Připojit soubor tipů"_qs, cesta,
+                  relace.Nastaveni.Adresare[1], vybrano);
+    if (!vybrano)
+        return;
+    Vysledek pripojeni;
+    {
+        const Prace prace(relace.Sluzby);
+        pripojeni = Pripoj_Soubor_Tipu(tipy, cesta, prace.Prubeh_Prace());
+    }
+    // A file that could not be read, or an old one, changed nothing; an overflow kept what fit.
+    const bool zmena = pripojeni.Ok() || pripojeni.Zprava == Text_Max_Tiketu_Pripojeni;
+    if (!pripojeni.Ok())
+        relace.Sluzby->Zprava(pripojeni.Zprava);
+    if (!zmena)
+        return;
+    ram.Pridej_Nedavny(Druh_Tipy, Jmeno_Bez_Adresare(cesta));
+    Ukaz_Tipy(ram, false);
+}
+
+void mnuSetriditSouborTipu_Click(frmMDITombi& ram) {
+    Relace& relace = ram.Sezeni();
+    bool zmena = false;
+    {
+        const Prace prace(relace.Sluzby);
+        zmena = Setridit_Soubor_Tipu(relace.Tipy.Soubor_Tipu, prace.Prubeh_Prace());
+    }
+    Ukaz_Tipy(ram, true, zmena);
+}
+
+void mnuExportTipu_Click(frmMDITombi& ram) {
+    Relace& relace = ram.Sezeni();
+    QByteArray text;
+    {
+        const Prace prace(relace.Sluzby);
+        text = Export_Tipu(relace.Tipy, prace.Prubeh_Prace());
+    }
+    if (text.isEmpty())
+        return;
+    QString cesta = relace.Tipy.Jmeno_Souboru_Tipu + u".txt"_qs;
+    bool vybrano = false;
+    Otevri_Dialog(relace, 1, u"Soubor tipů (*.txt)|*.txt"_qs, u"Export souboru tipů"_qs, cesta,
+                  relace.Nastaveni.Adresare[1], vybrano);
+    if (!vybrano)
+        return;
+    const Vysledek zapis = Uloz_Soubor(cesta, text);
+    relace.Sluzby->Zprava(zapis.Ok() ? u"Uložen EXPORT souboru tipů do \""_qs + Jmeno_Bez_Adresare(cesta) + u"\"."_qs
+                                     : zapis.Zprava);
+}
+
+void mnuImportTipu_Click(frmMDITombi& ram) {
+    Relace& relace = ram.Sezeni();
+    QString cesta;
+    bool vybrano = false;
+    Otevri_Dialog(relace, 0, u"Soubor tipů (*.txt)|*.txt"_qs, u"Import souboru tipů"_qs, cesta,
+                  relace.Nastaveni.Adresare[1], vybrano);
+    if (!vybrano)
+        return;
+    const Nacteny_Soubor soubor = Nacti_Soubor(cesta, Nejvic_Textu);
+    if (!soubor.Ok()) {
+        relace.Sluzby->Zprava(soubor.Zprava(Jmeno_Bez_Adresare(cesta)));
+        return;
+    }
+    if (!ram.Zavri_Okno<frmVypisTipu>())
+        return;
+    Vysledek import;
+    {
+        const Prace prace(relace.Sluzby);
+        import = Import_Tipu(Text_Importu(soubor.Data), relace.Tipy);
+    }
+    if (!import.Ok()) {
+        relace.Sluzby->Zprava(import.Zprava);
+        return;
+    }
+    relace.Tipy.Jmeno_Souboru_Tipu = QFileInfo(cesta).completeBaseName();
+    Ukaz_Tipy(ram, true);
+}
+
 } // namespace
 
 void Pripoj_Prikazy(frmMDITombi& ram) {
     ram.Obsluz(ram.mnuOtevriSouborTipu, [&ram] { mnuOtevriSouborTipu_Click(ram); });
+    ram.Obsluz(ram.mnuPripojSouborTipu, [&ram] { mnuPripojSouborTipu_Click(ram); });
+    ram.Obsluz(ram.mnuSetriditSouborTipu, [&ram] { mnuSetriditSouborTipu_Click(ram); });
+    ram.Obsluz(ram.mnuExportTipu, [&ram] { mnuExportTipu_Click(ram); });
+    ram.Obsluz(ram.mnuImportTipu, [&ram] { mnuImportTipu_Click(ram); });
     ram.Obsluz(ram.mnuKonverzeSouboruTipu, [&ram] { mnuKonverzeSouboruTipu_Click(ram); });
     for (int i = 1; i < int(ram.mnuRecentFile.size()); ++i)
         ram.Obsluz(ram.mnuRecentFile[std::size_t(i)], [&ram, i] { mnuRecentFile_Click(ram, i); });

@@ -1,6 +1,7 @@
 #pragma once
 // The commands of the menu Tipy that open no window of their own: opening a tip file (also from
-// the recent files) and converting one of the old format.
+// the recent files), converting one of the old format, appending another file, sorting the tips,
+// and the text form out and in.
 
 #include "data/Soubor_Tipu.h"
 

@@ -6,6 +6,7 @@
 #include "core/Prubeh.h"
 #include "generator/Tabulky_Rozpisu.h"
 
+#include <QString>
 #include <array>
 #include <span>
 #include <vector>
@@ -20,6 +21,10 @@ struct Zaruky_Rozpisu {
     double P3_Nahodne = 0; // the same for as many tips drawn at random
     double P4_Nahodne = 0;
 };
+
+// What the generator shows beside the chosen wheel, in Czech: the guarantees, then the chances of a
+// fifth- and a fourth-tier win per draw beside those of as many random tips.
+QString Text_Zaruk(const Zaruky_Rozpisu& z);
 
 // Over tips of numbers 1..49; cells of 0 are ignored, rows of zeros too.
 Zaruky_Rozpisu Spocti_Zaruky(std::span<const modRozpisy::Radek_Rozpisu> tipy, const Prubeh& prubeh = {});
