@@ -26,7 +26,6 @@ struct Prochazka {
     std::array<std::array<double, 7>, 7> Nepokryto{}; // [k][m]: m-sets no tip holds k of
     std::array<double, 7> Vaha_3{}, Vaha_4{};         // [m]: m-sets some tip holds 3 (4) of
     Sledovani_Prubehu* Sledovani = nullptr;
-    bool Zastaveno = false;
 
     void Pridej(int cislo, int znamenko) {
         for (int t : Tipy_Cisla[std::size_t(cislo)]) {
@@ -56,13 +55,12 @@ struct Prochazka {
 
     void Jdi(int od, int m) {
         Zapocti(m);
-        if (m == 6 || Zastaveno)
+        if (m == 6)
             return;
         for (int c = od; c < U; ++c) {
-            if (m == 0 && Sledovani && !Sledovani->Krok(c)) {
-                Zastaveno = true;
-                return;
-            }
+            // Half a walk would give wrong figures, so a request to stop is not heeded.
+            if (m == 0 && Sledovani)
+                Sledovani->Krok(c);
             Pridej(c, +1);
             Jdi(c + 1, m + 1);
             Pridej(c, -1);
@@ -129,7 +127,9 @@ Zaruky_Rozpisu Spocti_Zaruky(std::span<const modRozpisy::Radek_Rozpisu> tipy, co
 }
 
 QString Text_Zaruk(const Zaruky_Rozpisu& z) {
-    const auto procenta = [](double p) { return QString::number(100 * p, 'f', 1).replace(u'.', u',') + u" %"_qs; };
+    const auto procenta = [](double p) -> QString {
+        return QString::number(100 * p, 'f', 1).replace(u'.', u',') + u" %"_qs;
+    };
     QStringList zaruky;
     for (int k = 3; k <= 6; ++k)
         if (z.Zaruka[std::size_t(k)] != 0)

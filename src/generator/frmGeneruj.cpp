@@ -1,5 +1,6 @@
 #include "generator/frmGeneruj.h"
 
+#include "app/Otevri_Dialog.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
 #include "app/frmMDITombi.h"
@@ -8,12 +9,16 @@
 #include "archive/frmVypisTahu.h"
 #include "core/Tabulka_Textu.h"
 #include "core/Vb.h"
+#include "data/Operace_Tipu.h"
+#include "data/Soubory.h"
 #include "generator/Generator.h"
+#include "generator/Zaruky_Rozpisu.h"
 #include "generator/frmGeneruj_Omezeni.h"
 #include "generator/frmGeneruj_Vyber.h"
 #include "generator/modRozpisy.h"
 #include "tips/Vypis_Tipu.h"
 #include "tips/frmVypisTipu.h"
+#include "tips/frmVypisTipuVsech.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -28,6 +33,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <memory>
 
 using modNastaveni_Ovladani::Cele_Cislo;
 using modNastaveni_Ovladani::Prvek;
@@ -52,6 +58,7 @@ frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
       chkSpojvatRozpisy(Okno.Pojmenuj(new QCheckBox(this), u"chkSpojvatRozpisy"_qs)),
       Command1(Okno.Pojmenuj(new QPushButton(this), u"Command1"_qs)),
       cmdUvolnit_Seznam_Sazejicich(Okno.Pojmenuj(new QPushButton(this), u"cmdUvolnit_Seznam_Sazejicich"_qs)),
+      lblZaruky(Okno.Pojmenuj(new QLabel(this), u"lblZaruky"_qs)),
       cmdOK(Okno.Pojmenuj(new QPushButton(this), u"cmdOK"_qs)),
       cmdZrusit(Okno.Pojmenuj(new QPushButton(this), u"cmdZrusit"_qs)), Ram(ram), Sezeni(ram.Sezeni()) {
     setObjectName(Okno.Jmeno);
@@ -68,11 +75,12 @@ frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
     if (poprve)
         stav.Cislo_Rozpisu = 0;
 
-    // The catalogue of wheels; choosing one joins in with the wheels, so only row 0 can be chosen.
     lstSportka->addItems(modRozpisy::Katalog());
-    for (int i = 1; i < lstSportka->count(); ++i)
-        lstSportka->item(i)->setFlags(Qt::NoItemFlags);
-    lstSportka->setCurrentRow(0);
+    lstSportka->setCurrentRow(std::max(stav.Cislo_Rozpisu, 0));
+    lblZaruky->setWordWrap(true);
+    lblZaruky->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lblZaruky->setMinimumWidth(fontMetrics().horizontalAdvance(u"Šance na výhru v jednom tahu: aspoň 5. pořadí"_qs));
+    lblZaruky->hide();
     lstSportka->setMinimumWidth(lstSportka->fontMetrics().horizontalAdvance(modRozpisy::Katalog().at(5)) + 40);
     lstSportka->setMaximumHeight(lstSportka->sizeHintForRow(0) * 6 + 2 * lstSportka->frameWidth());
     chkSpojvatRozpisy->setChecked(stav.Spojovat_Rozpisy);
@@ -98,7 +106,10 @@ frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
     cmdOK->setDefault(true);
 
     auto* rozpisy = new QVBoxLayout(fraTypyRozpisu);
-    rozpisy->addWidget(lstSportka);
+    auto* seznam_a_zaruky = new QHBoxLayout;
+    seznam_a_zaruky->addWidget(lstSportka, 3);
+    seznam_a_zaruky->addWidget(lblZaruky, 2);
+    rozpisy->addLayout(seznam_a_zaruky);
     auto* pod_seznamem = new QHBoxLayout;
     pod_seznamem->addWidget(chkSpojvatRozpisy);
     pod_seznamem->addWidget(Command1);
@@ -162,8 +173,12 @@ frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
     const bool vychozi_pocet = tipy.Pocet_Tipu_Celkem == vychozi || tipy.Pocet_Tipu_Celkem < 1;
     txtPoc_Tipu->setText(QString::number(vychozi_pocet ? vychozi : tipy.Soubor_Tipu.Pocet_Tipu));
     chkSance->setChecked(stav.Stav_Sance);
-    if (poprve)
+    // A wheel file is read anew at each choice, so a reopened window starts without one; a built-in
+    // wheel stands as it was left, with its numbers.
+    if (poprve || stav.Cislo_Rozpisu == modRozpisy::Rozpis_Ze_Souboru || Sezeni.Pocet_Sazejicich > 0)
         lstSportka_Click(0);
+    else if (const modRozpisy::Tabulka_Rozpisu* t = modRozpisy::Tabulka(stav.Cislo_Rozpisu))
+        Ukaz_Rozpis(stav.Cislo_Rozpisu, modRozpisy::Rozmery_Rozpisu{t->Tutovek, t->Sloupcu, t->Cisel});
     Nastav_Seznam_Sazejicich();
     Zapis_Z_Tipu = false;
     Zapis_Z_Tiketu = false;
@@ -267,13 +282,95 @@ void frmGeneruj::lstSportka_Click(int index) {
 }
 
 void frmGeneruj::Nastav_Rozpis(int cislo) {
-    // Only "no wheel" can be chosen until the wheels stand: the pools take their part, the counts
-    // are free again unless a bettors' list holds them.
+    Stav_Generatoru& stav = Sezeni.Generator;
+    Vyber_Cisel& v = stav.Vyber;
+    std::optional<modRozpisy::Rozmery_Rozpisu> rozmery;
+    if (cislo == modRozpisy::Rozpis_Ze_Souboru) {
+        Externi = {};
+        const QByteArray text = Otevri_Rozpis_Soubor();
+        if (const Vysledek nacteni = modRozpisy::Nacti_Rozpis(text, Externi); !nacteni.Ok())
+            Sezeni.Sluzby->Zprava(nacteni.Zprava);
+        else if (!text.isEmpty())
+            rozmery = modRozpisy::Rozmery_Rozpisu{Externi.Tutovek, Externi.Sloupcu, Externi.Cisel};
+    } else if (const modRozpisy::Tabulka_Rozpisu* t = modRozpisy::Tabulka(cislo)) {
+        // The dimensions come from the table: expanding into the store just to read them would
+        // spoil the tips that stand there.
+        rozmery = modRozpisy::Rozmery_Rozpisu{t->Tutovek, t->Sloupcu, t->Cisel};
+    }
+    if (!rozmery) {
+        // No wheel: a cancelled or refused file, or row 0.
+        cislo = 0;
+        stav.Cislo_Rozpisu = 0;
+    } else {
+        v.Cisla_Potreba = rozmery->Tutovek + rozmery->Cisel;
+        v.Pocet_Tutovek_Rozpisu = rozmery->Tutovek;
+    }
     Vyber->Nastav_Rozpis(cislo);
-    if (Sezeni.Pocet_Sazejicich == 0)
-        Zamkni_Pocty(false);
+    Ukaz_Rozpis(cislo, rozmery);
+}
+
+void frmGeneruj::Ukaz_Rozpis(int cislo, const std::optional<modRozpisy::Rozmery_Rozpisu>& rozmery) {
+    lstSportka->setCurrentRow(cislo);
+    chkSpojvatRozpisy->setVisible(cislo != 0);
     Command1->setEnabled(cislo != 0);
-    setWindowTitle(Tabulka_Textu::Programu().Text(Okno.Jmeno));
+    QString titulek = Tabulka_Textu::Programu().Text(Okno.Jmeno);
+    if (cislo == 0) {
+        Omezeni->Povol_Omezeni();
+        if (Sezeni.Pocet_Sazejicich == 0)
+            Zamkni_Pocty(false);
+    } else {
+        Omezeni->Zakaz_Omezeni();
+        // A .rzp without a count of columns offers what the last run made.
+        const int sloupcu = rozmery->Sloupcu > 0 ? rozmery->Sloupcu : Sezeni.Generator.Pocet_Tipu_Hotovo;
+        Zamkni_Pocty(false);
+        txtPoc_Tipu->setText(QString::number(std::clamp(sloupcu, 1, Max_Tipu)));
+        Zapis_Z_Tipu = false;
+        Zamkni_Pocty(true);
+        if (cislo == modRozpisy::Rozpis_Ze_Souboru)
+            titulek = u"Generování tipů, Volba rozpisu          aktivní rozpis - "_qs + Jmeno_Rozpisu;
+    }
+    setWindowTitle(titulek);
+    Ukaz_Zaruky(cislo);
+}
+
+QByteArray frmGeneruj::Otevri_Rozpis_Soubor() {
+    QString cesta;
+    bool vybrano = false;
+    Otevri_Dialog(Sezeni, 0, u"Soubory rozpisů (*.rzp)|*.rzp"_qs, u"Rozpis ze souboru"_qs, cesta,
+                  Sezeni.Nastaveni.Adresare[1], vybrano);
+    if (!vybrano)
+        return {};
+    // A wheel is a short text; anything near this size is not one.
+    const Nacteny_Soubor soubor = Nacti_Soubor(cesta, 4 * Mebibajt);
+    if (!soubor.Ok()) {
+        Sezeni.Sluzby->Zprava(soubor.Zprava(Jmeno_Bez_Adresare(cesta)));
+        return {};
+    }
+    Jmeno_Rozpisu = Jmeno_Bez_Adresare(cesta);
+    return modRozpisy::Text_Rozpisu(soubor.Data);
+}
+
+void frmGeneruj::Ukaz_Zaruky(int cislo) {
+    std::vector<modRozpisy::Radek_Rozpisu> tipy;
+    if (const modRozpisy::Tabulka_Rozpisu* t = modRozpisy::Tabulka(cislo)) {
+        tipy = Tipy_Tabulky(*t);
+    } else if (cislo == modRozpisy::Rozpis_Ze_Souboru) {
+        // The file's rows over positions 1..N, its tutovky as N + 1 .. N + T.
+        const std::size_t v_radku = std::size_t(6 - Externi.Tutovek);
+        for (std::size_t i = 0;
+             i + v_radku <= Externi.Data_Rozpisu.size() && tipy.size() < std::size_t(Externi.Sloupcu); i += v_radku) {
+            modRozpisy::Radek_Rozpisu radek{};
+            for (int k = 0; k < Externi.Tutovek; ++k)
+                radek[std::size_t(k)] = uint8_t(Externi.Cisel + k + 1);
+            std::copy_n(Externi.Data_Rozpisu.begin() + qsizetype(i), v_radku, radek.begin() + Externi.Tutovek);
+            tipy.push_back(radek);
+        }
+    }
+    lblZaruky->setVisible(!tipy.empty());
+    if (!tipy.empty()) {
+        const Prace prace(Sezeni.Sluzby);
+        lblZaruky->setText(Text_Zaruk(Spocti_Zaruky(tipy, prace.Prubeh_Prace())));
+    }
 }
 
 void frmGeneruj::Zamkni_Pocty(bool zamknout) {
@@ -316,7 +413,81 @@ void frmGeneruj::cmdOK_Click() {
         Sezeni.Sluzby->Zprava(u"Prosím doplnit Počet tipů nebo tiketů."_qs);
         return;
     }
-    Generuj();
+    if (Sezeni.Generator.Cislo_Rozpisu > 0)
+        Rozpisuj();
+    else
+        Generuj();
+}
+
+void frmGeneruj::Rozpisuj() {
+    Stav_Generatoru& stav = Sezeni.Generator;
+    Stav_Tipu& tipy = Sezeni.Tipy;
+    const bool spojovat = chkSpojvatRozpisy->isChecked();
+    std::array<QString, 3> boxy;
+    for (std::size_t i = 0; i < boxy.size(); ++i)
+        boxy[i] = Vyber->txtTutovka[i]->text();
+    const std::vector<int> tutovky = Nacti_Tutovky(boxy);
+    const int cisel = Priprav_Okruh(stav.Vyber, stav.Tutovky);
+    if (Vyber->Check2->isChecked())
+        Zamichej_Cisla(stav.Vyber, cisel, Sezeni.Random);
+    Tip aktualni{};
+    for (std::size_t i = 0; i < std::min<std::size_t>(tutovky.size(), 3); ++i)
+        aktualni[int(i) + 1] = uint8_t(tutovky[i]);
+
+    // The wheel is written into a store of its own: alone it replaces the tips, so nothing of an
+    // older file stands among its tips; joined, it goes after the tips that stood there.
+    auto novy = std::make_unique<Zaznam_Tipu>();
+    if (stav.Cislo_Rozpisu == modRozpisy::Rozpis_Ze_Souboru) {
+        const Vysledek v =
+            modRozpisy::Externi_Rozpis(Externi, stav.Vyber.Cisla_Rozpisu, Cele_Cislo(txtPoc_Tiketu), *novy);
+        if (!v.Ok()) {
+            Sezeni.Sluzby->Zprava(v.Zprava);
+            return;
+        }
+    } else {
+        modRozpisy::Rozpis(stav.Cislo_Rozpisu, stav.Vyber.Cisla_Rozpisu, aktualni, *novy);
+    }
+    if (spojovat) {
+        tipy.Soubor_Tipu_Pripojeny = *novy;
+        if (const Vysledek v = Pripoj_Soubor_Tipu(tipy, {}); !v.Ok())
+            Sezeni.Sluzby->Zprava(v.Zprava);
+    } else {
+        tipy.Soubor_Tipu = *novy;
+    }
+    stav.Pocet_Tipu_Hotovo = Pocet_Tipu_V_Souboru(tipy.Soubor_Tipu);
+    if (!spojovat) {
+        Predej_Tipy();
+        return;
+    }
+    tipy.Jmeno_Souboru_Tipu.clear();
+    tipy.Je_Soubor_Tipu = false;
+    tipy.Pocet_Tipu_Celkem = stav.Pocet_Tipu_Hotovo;
+    tipy.Pocet_Tipu_Aktivni = int16_t(stav.Pocet_Tipu_Hotovo);
+    Sezeni.Tikety.Zrusit_Beh = true;
+    Sezeni.Tikety.Zmena_Dat = true;
+    Sezeni.Sluzby->Nastav_Soubor_Tipu(QString::number(stav.Pocet_Tipu_Hotovo));
+    Ukaz_Vsechny_Tipy();
+}
+
+void frmGeneruj::Ukaz_Vsechny_Tipy() {
+    // Every tip of the store up to the first empty column, each number in three places; then the
+    // tutovky and every number used, which the window shows sorted, each once, with their count.
+    const Zaznam_Tipu& z = Sezeni.Tipy.Soubor_Tipu;
+    QString tipy, cisla;
+    for (std::size_t i = 0; i < 3; ++i)
+        cisla += u' ' + Vyber->txtTutovka[i]->text();
+    const int pocet = Pocet_Tipu_V_Souboru(z);
+    for (int i = 0; i < pocet; ++i) {
+        for (uint8_t n : z.Tikety[i / Sloupcu_Tiketu + 1].Cisla[i % Sloupcu_Tiketu + 1]) {
+            tipy += QString::number(n).rightJustified(3);
+            cisla += u' ' + QString::number(n);
+        }
+        tipy += u"\r\n"_qs;
+    }
+    auto* vsech = Ram.Otevri_Okno<frmVypisTipuVsech>(Ram);
+    vsech->Zobraz(tipy, cisla);
+    vsech->Umisti(this);
+    Sezeni.Sluzby->Nastav_Status(vsech->lblTutovky[0]->text(), vsech->lblTutovky[1]->text());
 }
 
 void frmGeneruj::Generuj() {

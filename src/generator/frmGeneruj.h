@@ -3,6 +3,8 @@
 // pools (frmGeneruj_Vyber) and the filters (frmGeneruj_Omezeni); "Budiž" runs the generator over
 // them, shows its progress, can be stopped, and hands the tips to the tip list.
 
+#include "generator/modRozpisy.h"
+
 #include <QWidget>
 
 class QCheckBox;
@@ -48,6 +50,7 @@ public:
     QCheckBox* chkSpojvatRozpisy;
     QPushButton* Command1;
     QPushButton* cmdUvolnit_Seznam_Sazejicich;
+    QLabel* lblZaruky; // what the chosen wheel guarantees and its chances beside random tips
     QPushButton* cmdOK;
     QPushButton* cmdZrusit;
     frmGeneruj_Vyber* Vyber;
@@ -71,10 +74,22 @@ private:
     void Generuj();
     void cmdZrusit_Click();
     void Predej_Tipy();
+    // Otevri_Rozpis_Soubor: the text of a .rzp chosen in the open dialog, or empty.
+    QByteArray Otevri_Rozpis_Soubor();
+    // The window as a wheel (or none, cislo 0) wants it: the filters, the counts locked at the
+    // wheel's columns, the caption, the guarantees.
+    void Ukaz_Rozpis(int cislo, const std::optional<modRozpisy::Rozmery_Rozpisu>& rozmery);
+    void Ukaz_Zaruky(int cislo);
+    // cmdOK with a wheel: the user's numbers expanded into the store, alone or joined to the tips
+    // that stood there ("Spojovat").
+    void Rozpisuj();
+    void Ukaz_Vsechny_Tipy();
 
     frmMDITombi& Ram;
     Relace& Sezeni;
     bool Zapis_Z_Tipu = false;
     bool Zapis_Z_Tiketu = false;
     bool Beh_Bezi = false;
+    modRozpisy::Externi_Rozpis_Stav Externi; // the wheel read from a .rzp file
+    QString Jmeno_Rozpisu;                   // its file name, for the caption
 };

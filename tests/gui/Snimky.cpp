@@ -4,30 +4,29 @@
 // entry in the list below.
 
 #include "Prostredi_Okna.h"
+#include "analysis/frmAnalyzaTahu.h"
+#include "analysis/frmAnalyzaTahu_Graf.h"
+#include "analysis/frmVypisAnalyz.h"
 #include "app/Sluzby_Oken.h"
+#include "app/frmKresleni.h"
 #include "app/frmMDITombi_Sluzby.h"
 #include "app/frmNapoveda.h"
 #include "app/frmNeniProcedura.h"
 #include "app/frmOProgramu.h"
-#include "app/frmKresleni.h"
 #include "app/frmPismo.h"
+#include "app/frmPrehled.h"
 #include "app/frmSloupec_Tiketu.h"
+#include "app/frmTombi_uvod.h"
+#include "archive/frmVypisTahu.h"
+#include "data/Chyby_A_Prehled.h"
+#include "data/Soubory.h"
 #include "generator/frmGeneruj.h"
 #include "generator/frmGeneruj_Omezeni.h"
 #include "generator/frmGeneruj_Vyber.h"
 #include "tips/frmVypisTipu.h"
+#include "tips/frmVypisTipuVsech.h"
 #include "tips/frmVypisTipu_Vyhodnoceni.h"
 #include "tips/frmVypisTipu_Vyhry.h"
-#include "tips/frmVypisTipuVsech.h"
-#include "app/frmPrehled.h"
-#include "app/frmTombi_uvod.h"
-#include "analysis/frmAnalyzaTahu.h"
-#include "analysis/frmAnalyzaTahu_Graf.h"
-#include "analysis/frmVypisAnalyz.h"
-#include "archive/frmVypisTahu.h"
-#include <QTabWidget>
-#include "data/Chyby_A_Prehled.h"
-#include "data/Soubory.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -39,12 +38,12 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextEdit>
-#include <QTest>
-
 #include <functional>
 #include <memory>
 #include <vector>
@@ -74,7 +73,8 @@ QWidget* Cetnost_52(bool graf) {
         okno->Zalozky->setCurrentIndex(1);
         // Under the draw list the chart is reached by scrolling the area, as the user does.
         QCoreApplication::processEvents();
-        prostredi.Okno->Plocha()->verticalScrollBar()->setValue(prostredi.Okno->Plocha()->verticalScrollBar()->maximum());
+        prostredi.Okno->Plocha()->verticalScrollBar()->setValue(
+            prostredi.Okno->Plocha()->verticalScrollBar()->maximum());
     }
     return prostredi.Okno.release();
 }
@@ -198,17 +198,35 @@ int main(int argc, char** argv) {
              prostredi.Okno->Najdi_Okno<frmVypisTipu>()->List2->setCurrentRow(1);
              return prostredi.Okno.release();
          }},
-        // The tips of joined wheels with the numbers they use.
+        // Two wheels joined: the generator stays for the next one beside the list of all tips.
         {u"frmVypisTipuVsech"_qs,
          [](QWidget*) -> QWidget* {
              static Prostredi prostredi(QDate(2026, 11, 28));
              frmMDITombi& okno = prostredi.Spust();
-             auto* vsech = okno.Otevri_Okno<frmVypisTipuVsech>(okno);
-             QString tipy;
-             for (int i = 0; i < 14; ++i)
-                 tipy += u"%1%2%3%4%5%6\r\n"_qs.arg(3, 3).arg(7 + i % 3, 3).arg(12 + i, 3).arg(19, 3).arg(25 + i, 3).arg(41, 3);
-             vsech->Zobraz(tipy, u" 3 41 7 8 9 12 13 14 15 16 17 18 19 25 26 27"_qs);
-             vsech->Umisti(nullptr);
+             okno.resize(1300, 740);
+             okno.Otevri_Okno<frmGeneruj>(okno);
+             auto* generator = okno.Najdi_Okno<frmGeneruj>();
+             generator->chkSpojvatRozpisy->setChecked(true);
+             for (int kolo = 0; kolo < 2; ++kolo) {
+                 emit generator->lstSportka->itemClicked(generator->lstSportka->item(10));
+                 for (int n = 1; n <= 10; ++n)
+                     emit generator->Vyber->picSloupec->Klik(n + 10 * kolo + 2, Qt::LeftButton, false);
+                 generator->cmdOK->click();
+             }
+             return prostredi.Okno.release();
+         }},
+        // A wheel chosen and its numbers filled: its guarantees and chances under the list.
+        {u"frmGeneruj_Rozpis"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 28));
+             frmMDITombi& okno = prostredi.Spust();
+             okno.resize(1060, 740);
+             okno.Otevri_Okno<frmGeneruj>(okno);
+             auto* generator = okno.Najdi_Okno<frmGeneruj>();
+             emit generator->lstSportka->itemClicked(generator->lstSportka->item(11));
+             for (int n : {3, 7, 12, 15, 18, 22, 26, 29, 33, 36, 40, 41, 44, 48})
+                 emit generator->Vyber->picSloupec->Klik(n, Qt::LeftButton, false);
+             generator->lstSportka->scrollToItem(generator->lstSportka->item(11));
              return prostredi.Okno.release();
          }},
         // The frequency of numbers over the last 52 draws, as the report and as the chart.

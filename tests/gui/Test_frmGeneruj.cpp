@@ -47,7 +47,7 @@ private slots:
         QVERIFY(generator != nullptr);
         QCOMPARE(generator->txtPoc_Tipu->text(), u"8"_qs);
         QCOMPARE(generator->txtPoc_Tiketu->text(), u"1"_qs);
-        QVERIFY(!generator->lstSportka->item(2)->flags().testFlag(Qt::ItemIsEnabled));
+        QVERIFY(generator->lstSportka->item(24)->flags().testFlag(Qt::ItemIsEnabled));
 
         Napis(generator->txtPoc_Tipu, u"25"_qs);
         QCOMPARE(generator->txtPoc_Tiketu->text(), u"3"_qs);
