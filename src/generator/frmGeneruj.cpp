@@ -161,6 +161,7 @@ frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
             Omezeni->Check1[4]->setChecked(false);
         lstSportka->setCurrentRow(0);
     });
+    connect(Vyber, &frmGeneruj_Vyber::Zvol_Rozpis, this, &frmGeneruj::lstSportka_Click);
     connect(Vyber, &frmGeneruj_Vyber::Vyber_Bezi, this, [this](bool bezi) {
         cmdOK->setEnabled(!bezi);
         cmdZrusit->setEnabled(!bezi);

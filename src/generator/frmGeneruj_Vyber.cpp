@@ -1,15 +1,16 @@
 #include "generator/frmGeneruj_Vyber.h"
 
-#include "core/Dialogy.h"
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
-#include "core/Tabulka_Textu.h"
-#include "core/Vb.h"
 #include "app/frmMDITombi.h"
 #include "app/frmOvladani.h"
 #include "app/frmSloupec_Tiketu.h"
 #include "app/modTombi.h"
+#include "core/Dialogy.h"
+#include "core/Tabulka_Textu.h"
+#include "core/Vb.h"
 #include "generator/Soubor_Vyb.h"
+#include "generator/Tabulky_Rozpisu.h"
 #include "generator/Vyber_Cisel.h"
 #include "tips/frmVypisTipu.h"
 
@@ -514,11 +515,14 @@ void frmGeneruj_Vyber::Otevrit_Soubor_Vybrana_Cisla() {
         return;
     }
     if (zaznam.Rozpis != Sezeni.Generator.Cislo_Rozpisu && zaznam.Rozpis > 0) {
-        // The wheel list offers no wheel yet, so numbers for a wheel have nowhere to go.
-        Sezeni.Sluzby->Zprava(u"Soubor \""_qs + QFileInfo(*cesta).fileName() + u"\" obsahuje čísla pro rozpis č. "_qs +
-                              QString::number(zaznam.Rozpis) +
-                              u", který v seznamu rozpisů nelze zvolit. Čísla nebyla načtena."_qs);
-        return;
+        // A built-in wheel is chosen again; a wheel of a .rzp file must be read by the user first.
+        if (modRozpisy::Tabulka(zaznam.Rozpis) == nullptr) {
+            Sezeni.Sluzby->Zprava(u"Soubor \""_qs + QFileInfo(*cesta).fileName() +
+                                  u"\" obsahuje čísla pro rozpis ze souboru *.rzp. Zvolte nejprve ten rozpis, "_qs
+                                  u"potom čísla otevřete znovu."_qs);
+            return;
+        }
+        emit Zvol_Rozpis(zaznam.Rozpis);
     }
     Vyber_Cisel& v = Sezeni.Generator.Vyber;
     Boxy_Tutovek boxy{};

@@ -70,6 +70,9 @@ signals:
     // The picker starts or stops: while it runs the window disables cmdOK and cmdZrusit and hides
     // the wheel list.
     void Vyber_Bezi(bool bezi);
+    // A .vyb file holds the numbers of built-in wheel `cislo`: the window chooses that wheel before
+    // the numbers are applied.
+    void Zvol_Rozpis(int cislo);
 
 private:
     using Boxy_Tutovek = std::array<uint8_t, 3>;

@@ -4,6 +4,7 @@
 #include "Bajty.h"
 #include "Prostredi_Okna.h"
 #include "app/frmSloupec_Tiketu.h"
+#include "generator/Soubor_Vyb.h"
 #include "generator/frmGeneruj.h"
 #include "generator/frmGeneruj_Vyber.h"
 #include "tips/frmVypisTipu.h"
@@ -88,6 +89,24 @@ private slots:
         QVERIFY(vsech != nullptr);
         QCOMPARE(vsech->rtbVypisTipuVsech->toPlainText().split(u'\n', Qt::SkipEmptyParts).size(), 28);
         QCOMPARE(Pocet_Tipu_V_Souboru(prostredi.Data->Tipy.Soubor_Tipu), 28);
+    }
+
+    void Cisla_Rozpisu_Z_Vyb() {
+        Prostredi prostredi(QDate(2026, 11, 21));
+        prostredi.Spust();
+        frmGeneruj* okno = Otevri(prostredi);
+        Zaznam_Vyb zaznam;
+        zaznam.Rozpis = 10;
+        zaznam.Pocet_Cisel = 10;
+        for (int i = 1; i <= 10; ++i)
+            zaznam.Cisla[i] = uint8_t(4 * i);
+        Zapis_Souboru(prostredi.Cesta(u"w10.vyb"_qs), Zapis_Zaznam_Vyb(zaznam));
+        prostredi.Dialogy.Soubory.enqueue(prostredi.Cesta(u"w10.vyb"_qs));
+        okno->Vyber->Otevri_Soubor_JenCisla->click();
+        QCOMPARE(okno->lstSportka->currentRow(), 10);
+        QCOMPARE(okno->Vyber->txtZbytek_Cisel->text(), u"0"_qs);
+        okno->cmdOK->click();
+        QCOMPARE(prostredi.Data->Tipy.Soubor_Tipu.Tikety[1].Cisla[1], (Tip{{4, 8, 12, 16, 32, 36}}));
     }
 
     void Rozpis_Ze_Souboru() {
