@@ -122,20 +122,7 @@ QByteArray Export_Tipu(const Stav_Tipu& stav, const Prubeh& prubeh) {
 }
 
 QByteArray Text_Importu(const QByteArray& soubor) {
-    QByteArray text;
-    qsizetype zacatek = 0;
-    const qsizetype delka = soubor.size();
-    while (zacatek < delka) {
-        qsizetype konec = zacatek;
-        while (konec < delka && soubor[konec] != '\r' && soubor[konec] != '\n')
-            ++konec;
-        const QByteArray radek = soubor.mid(zacatek, konec - zacatek).toUpper();
-        if (!radek.contains("REM"))
-            text += radek + "\r\n";
-        // CR LF, LF and a lone CR each end a line.
-        zacatek = konec + (konec + 1 < delka && soubor[konec] == '\r' && soubor[konec + 1] == '\n' ? 2 : 1);
-    }
-    return text;
+    return Radky_Bez_Poznamek(soubor, true);
 }
 
 Vysledek Import_Tipu(const QByteArray& text, Stav_Tipu& stav) {

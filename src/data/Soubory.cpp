@@ -351,6 +351,23 @@ bool Je_Soubor(const QString& adresar, const QString& jmeno) {
     return QFile::exists(Spoj_Cestu(adresar, jmeno));
 }
 
+QByteArray Radky_Bez_Poznamek(const QByteArray& soubor, bool velka) {
+    QByteArray text;
+    qsizetype zacatek = 0;
+    const qsizetype delka = soubor.size();
+    while (zacatek < delka) {
+        qsizetype konec = zacatek;
+        while (konec < delka && soubor[konec] != '\r' && soubor[konec] != '\n')
+            ++konec;
+        const QByteArray kus = soubor.mid(zacatek, konec - zacatek);
+        const QByteArray radek = velka ? kus.toUpper() : kus.trimmed();
+        if (!radek.contains("REM"))
+            text += radek + "\r\n";
+        zacatek = konec + (konec + 1 < delka && soubor[konec] == '\r' && soubor[konec + 1] == '\n' ? 2 : 1);
+    }
+    return text;
+}
+
 QString Jmeno_Bez_Adresare(const QString& cesta) {
     const qsizetype i = std::max(cesta.lastIndexOf(u'/'), cesta.lastIndexOf(u'\\'));
     return cesta.mid(i + 1);

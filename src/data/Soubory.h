@@ -73,3 +73,8 @@ bool Je_Soubor(const QString& adresar, const QString& jmeno);
 
 // The name without directory: "C:\a\b.c.tip" and "/a/b.c.tip" both give "b.c.tip".
 QString Jmeno_Bez_Adresare(const QString& cesta);
+
+// The lines of a text file of numbers (CR LF, LF and a lone CR each end a line), each turned to
+// capitals (`velka`) or trimmed, without the lines that hold "REM" (a comment), each kept line
+// followed by CR LF.
+QByteArray Radky_Bez_Poznamek(const QByteArray& soubor, bool velka);

@@ -1,6 +1,7 @@
 #include "generator/modRozpisy.h"
 
 #include "data/Soubor_Tipu.h"
+#include "data/Soubory.h"
 
 #include <algorithm>
 
@@ -79,19 +80,7 @@ void Smaz_Sloupce(Tiket& tiket, int sloupec) {
 }
 
 QByteArray Text_Rozpisu(const QByteArray& soubor) {
-    QByteArray text;
-    qsizetype zacatek = 0;
-    const qsizetype delka = soubor.size();
-    while (zacatek < delka) {
-        qsizetype konec = zacatek;
-        while (konec < delka && soubor[konec] != '\r' && soubor[konec] != '\n')
-            ++konec;
-        const QByteArray radek = soubor.mid(zacatek, konec - zacatek).trimmed();
-        if (!radek.contains("REM"))
-            text += radek + "\r\n";
-        zacatek = konec + (konec + 1 < delka && soubor[konec] == '\r' && soubor[konec + 1] == '\n' ? 2 : 1);
-    }
-    return text;
+    return Radky_Bez_Poznamek(soubor, false);
 }
 
 Vysledek Nacti_Rozpis(const QByteArray& text, Externi_Rozpis_Stav& rozpis) {
