@@ -61,3 +61,5 @@ bool Je_Operace_Tipu(const QStringList& args);
 int Operace_Tipu(const QStringList& args);
 // wheel INDEX | wheel --rzp FILE: the wheels, their guarantees and their expansion.
 int Rozpisy(const QStringList& args);
+// print FILE.tip ...: the marks of the printed tickets.
+int Tisk(const QStringList& args);

@@ -197,6 +197,8 @@ int main(int argc, char** argv) {
         return Archiv(args);
     if (prikaz == u"tips")
         return Tipy(args);
+    if (prikaz == u"print")
+        return Tisk(args);
     if (prikaz == u"wheel")
         return Rozpisy(args);
     if (prikaz == u"cfg")
