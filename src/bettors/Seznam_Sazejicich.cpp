@@ -1,6 +1,7 @@
 #include "bettors/Seznam_Sazejicich.h"
 
 #include <QtEndian>
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -81,4 +82,24 @@ void Prepocti_Podily(std::vector<Sazejici>& seznam, double celkem) {
         if (s.Vklad.Korun() > 0 && celkem > 0)
             s.Podil =
                 Vb::Mena::Z_Korun(Vb::Val(Vb::Format(s.Vklad.Korun() * (100 / celkem), u"##0.0").replace(u',', u'.')));
+}
+
+QStringList Rozdel_Vyhru(std::vector<Sazejici>& seznam, double celkem,
+                         const std::function<int(const QString&)>& sirka_twipu) {
+    QStringList radky;
+    if (seznam.empty() || !(celkem > 0))
+        return radky;
+    const double procento = celkem / 100;
+    Vb::Mena rozdeleno;
+    for (Sazejici& s : seznam) {
+        if (s.Jmeno.isEmpty())
+            continue;
+        s.Vyhra = Vb::Mena::Z_Korun(Vb::Val(Vb::Format(s.Podil.Korun() * procento, u"0.00").replace(u',', u'.')));
+        rozdeleno = rozdeleno + s.Vyhra;
+        const int mezer = std::max(0, (2000 - sirka_twipu(s.Jmeno)) / 45);
+        radky << s.Jmeno + QString(mezer, u' ') + Vb::Format(s.Vyhra.Korun(), u"### ### ##0.00");
+    }
+    // The sum keeps its hundredths as the lines do: rounded to crowns it would not be their sum.
+    radky << QString() << u"   CELKEM               "_qs + Vb::Format(rozdeleno.Korun(), u"### ### ##0.00") + u" Kč"_qs;
+    return radky;
 }

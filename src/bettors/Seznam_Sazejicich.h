@@ -8,6 +8,8 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
+#include <functional>
 #include <vector>
 
 struct Sazejici {
@@ -35,3 +37,11 @@ QByteArray Zapis_Seznam(const std::vector<Sazejici>& seznam);
 // Prepocti_Podily: the share of each bettor with a stake above 0, Vklad * (100 / celkem), to one
 // decimal as the list shows it. The shares are not corrected to add up to 100.
 void Prepocti_Podily(std::vector<Sazejici>& seznam, double celkem);
+
+// The split of a win: each named bettor's Vyhra is Podil per cent of `celkem`, rounded to
+// hundredths on its own, so the shares may differ from the win by hundredths. The lines of
+// lstSazejiciVypis: the name, blanks to (2000 - its width in twips) / 45, the share; then an empty
+// line and the sum shared out, in hundredths. A win that is not above 0, or no bettor, gives no lines.
+// `sirka_twipu` measures a name in the list's font.
+QStringList Rozdel_Vyhru(std::vector<Sazejici>& seznam, double celkem,
+                         const std::function<int(const QString&)>& sirka_twipu);

@@ -49,6 +49,23 @@ private slots:
         Prepocti_Podily(tri, 3);
         for (const Sazejici& s : tri)
             QCOMPARE(s.Podil.Korun(), 33.3);
+
+        // A win of 1000 splits 250,00 and 750,00; names 450 twips wide stand 34 blanks from it.
+        seznam[0].Jmeno = u"Jan"_qs;
+        seznam[1].Jmeno = u"Eva"_qs;
+        const auto sirka = [](const QString&) { return 450; };
+        const QStringList radky = Rozdel_Vyhru(seznam, 1000, sirka);
+        QCOMPARE(radky.size(), 4);
+        QVERIFY(radky[0].startsWith(u"Jan"_qs + QString(34, u' ')));
+        QVERIFY2(radky[0].endsWith(u"250,00"_qs), qPrintable(radky[0]));
+        QCOMPARE(seznam[1].Vyhra.Korun(), 750.0);
+        QVERIFY(radky[3].startsWith(u"   CELKEM"_qs) && radky[3].endsWith(u"1 000,00 Kč"_qs));
+        // Thirds of 100: each 33,30; a bettor without a name gets nothing.
+        tri[0].Jmeno = tri[1].Jmeno = u"A"_qs;
+        QVERIFY(Rozdel_Vyhru(tri, 100, sirka).last().endsWith(u" 66,60 Kč"_qs));
+        QCOMPARE(tri[2].Vyhra.Korun(), 0.0);
+        QCOMPARE(tri[0].Vyhra.Korun(), 33.3);
+        QVERIFY(Rozdel_Vyhru(tri, 0, sirka).isEmpty());
     }
 };
 
