@@ -11,12 +11,23 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <optional>
 
 namespace frmMDITombi_Tipy {
 
 namespace {
 
 const QString Filtr_Tipu = u"Soubor tipů (*.tip)|*.tip"_qs;
+const QString Filtr_Textu = u"Soubor tipů (*.txt)|*.txt"_qs;
+
+// The open (typ 0) or save (typ 1, `jmeno` proposed) dialog in the folder of the tips: the path
+// chosen, or nothing when cancelled.
+std::optional<QString> Dialog_Tipu(Relace& relace, int typ, const QString& filtr, const QString& nazev,
+                                   QString jmeno = {}) {
+    bool vybrano = false;
+    Otevri_Dialog(relace, typ, filtr, nazev, jmeno, relace.Nastaveni.Adresare[1], vybrano);
+    return vybrano ? std::optional(jmeno) : std::nullopt;
+}
 
 void Po_Nacteni(frmMDITombi& ram, const QString& cesta) {
     Stav_Tipu& tipy = ram.Sezeni().Tipy;
@@ -29,12 +40,8 @@ void Po_Nacteni(frmMDITombi& ram, const QString& cesta) {
 }
 
 void mnuOtevriSouborTipu_Click(frmMDITombi& ram) {
-    Relace& relace = ram.Sezeni();
-    QString cesta;
-    bool vybrano = false;
-    Otevri_Dialog(relace, 0, Filtr_Tipu, u"Otevřít soubor tipů"_qs, cesta, relace.Nastaveni.Adresare[1], vybrano);
-    if (vybrano)
-        Otevri_Soubor_Tipu(ram, cesta, Otevreni::Z_Dialogu);
+    if (const auto cesta = Dialog_Tipu(ram.Sezeni(), 0, Filtr_Tipu, u"Otevřít soubor tipů"_qs))
+        Otevri_Soubor_Tipu(ram, *cesta, Otevreni::Z_Dialogu);
 }
 
 void mnuRecentFile_Click(frmMDITombi& ram, int index) {
@@ -53,12 +60,10 @@ void mnuRecentFile_Click(frmMDITombi& ram, int index) {
 
 void mnuKonverzeSouboruTipu_Click(frmMDITombi& ram) {
     Relace& relace = ram.Sezeni();
-    QString cesta;
-    bool vybrano = false;
-    Otevri_Dialog(relace, 0, Filtr_Tipu, u"Konverze starého souboru tipů"_qs, cesta, relace.Nastaveni.Adresare[1],
-                  vybrano);
-    if (!vybrano)
+    const auto vybrana = Dialog_Tipu(relace, 0, Filtr_Tipu, u"Konverze starého souboru tipů"_qs);
+    if (!vybrana)
         return;
+    const QString& cesta = *vybrana;
     Vysledek konverze;
     {
         const Prace prace(relace.Sluzby);
@@ -94,12 +99,10 @@ void mnuPripojSouborTipu_Click(frmMDITombi& ram) {
         relace.Sluzby->Zprava(Text_Max_Tipu_Pripojeni);
         return;
     }
-    QString cesta;
-    bool vybrano = false;
-    Otevri_Dialog(relace, 0, u"Soubory tipů (*.tip)|*.tip"_qs, u"Připojit soubor tipů"_qs, cesta,
-                  relace.Nastaveni.Adresare[1], vybrano);
-    if (!vybrano)
+    const auto vybrana = Dialog_Tipu(relace, 0, u"Soubory tipů (*.tip)|*.tip"_qs, u"Připojit soubor tipů"_qs);
+    if (!vybrana)
         return;
+    const QString& cesta = *vybrana;
     Vysledek pripojeni;
     {
         const Prace prace(relace.Sluzby);
@@ -134,12 +137,11 @@ void mnuExportTipu_Click(frmMDITombi& ram) {
     }
     if (text.isEmpty())
         return;
-    QString cesta = relace.Tipy.Jmeno_Souboru_Tipu + u".txt"_qs;
-    bool vybrano = false;
-    Otevri_Dialog(relace, 1, u"Soubor tipů (*.txt)|*.txt"_qs, u"Export souboru tipů"_qs, cesta,
-                  relace.Nastaveni.Adresare[1], vybrano);
-    if (!vybrano)
+    const auto vybrana =
+        Dialog_Tipu(relace, 1, Filtr_Textu, u"Export souboru tipů"_qs, relace.Tipy.Jmeno_Souboru_Tipu + u".txt"_qs);
+    if (!vybrana)
         return;
+    const QString& cesta = *vybrana;
     const Vysledek zapis = Uloz_Soubor(cesta, text);
     relace.Sluzby->Zprava(zapis.Ok() ? u"Uložen EXPORT souboru tipů do \""_qs + Jmeno_Bez_Adresare(cesta) + u"\"."_qs
                                      : zapis.Zprava);
@@ -147,12 +149,10 @@ void mnuExportTipu_Click(frmMDITombi& ram) {
 
 void mnuImportTipu_Click(frmMDITombi& ram) {
     Relace& relace = ram.Sezeni();
-    QString cesta;
-    bool vybrano = false;
-    Otevri_Dialog(relace, 0, u"Soubor tipů (*.txt)|*.txt"_qs, u"Import souboru tipů"_qs, cesta,
-                  relace.Nastaveni.Adresare[1], vybrano);
-    if (!vybrano)
+    const auto vybrana = Dialog_Tipu(relace, 0, Filtr_Textu, u"Import souboru tipů"_qs);
+    if (!vybrana)
         return;
+    const QString& cesta = *vybrana;
     const Nacteny_Soubor soubor = Nacti_Soubor(cesta, Nejvic_Textu);
     if (!soubor.Ok()) {
         relace.Sluzby->Zprava(soubor.Zprava(Jmeno_Bez_Adresare(cesta)));
