@@ -1,10 +1,8 @@
 #include "app/frmMDITombi.h"
 
-#include "core/Dialogy.h"
-#include "core/Hodiny.h"
+#include "analysis/frmAnalyzaTahu.h"
+#include "analysis/frmVypisAnalyz.h"
 #include "app/Relace.h"
-#include "core/Tabulka_Textu.h"
-#include "core/Vb.h"
 #include "app/frmKresleni.h"
 #include "app/frmMDITombi_Plocha.h"
 #include "app/frmMDITombi_Sluzby.h"
@@ -17,13 +15,16 @@
 #include "app/frmPrehled.h"
 #include "app/frmTombi_uvod.h"
 #include "app/modTombi.h"
+#include "archive/frmVypisTahu.h"
+#include "core/Dialogy.h"
+#include "core/Hodiny.h"
+#include "core/Tabulka_Textu.h"
+#include "core/Vb.h"
 #include "data/Nastaveni.h"
 #include "data/Nedavne_Soubory.h"
 #include "data/Soubory.h"
-#include "analysis/frmAnalyzaTahu.h"
-#include "archive/frmVypisTahu.h"
-#include "analysis/frmVypisAnalyz.h"
 #include "generator/frmGeneruj.h"
+#include "printing/frmTiskTiketu.h"
 #include "tips/frmVypisTipu.h"
 #include "tips/frmVypisTipuVsech.h"
 
@@ -105,6 +106,7 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
     frmPrehled::Pripoj_Prikazy(*this);
     frmVypisTipu::Pripoj_Prikazy(*this);
     frmGeneruj::Pripoj_Prikazy(*this);
+    frmTiskTiketu::Pripoj_Prikazy(*this);
     frmAnalyzaTahu::Pripoj_Prikazy(*this);
     frmVypisTahu::Pripoj_Prikazy(*this);
     Timer2 = new QTimer(this);
@@ -227,12 +229,11 @@ bool frmMDITombi::Je_Nehotovy(const QAction* prikaz) const {
     // Commands whose windows are still to come stay off; a command is switched on by taking it
     // out of this list once its window connects it.
     const QAction* const nehotove[] = {
-        mnuTiskTiketu,
-        mnuDownload,           mnuOtevriSeznam,
-        mnuNovySeznam,       mnuVypisSeznamu,       mnuUvolnit,     mnuKonfigurace,     mnuWebTombiNovaVer,
+        mnuDownload, mnuOtevriSeznam, mnuNovySeznam, mnuVypisSeznamu, mnuUvolnit, mnuKonfigurace, mnuWebTombiNovaVer,
     };
     return std::find(std::begin(nehotove), std::end(nehotove), prikaz) != std::end(nehotove) ||
-           (prikaz != mnuSeznamFile[0] && std::find(mnuSeznamFile.begin(), mnuSeznamFile.end(), prikaz) != mnuSeznamFile.end());
+           (prikaz != mnuSeznamFile[0] &&
+            std::find(mnuSeznamFile.begin(), mnuSeznamFile.end(), prikaz) != mnuSeznamFile.end());
 }
 
 void frmMDITombi::Nastav_Zamek(const QString& jmeno, Zamek zamek) {
@@ -504,7 +505,9 @@ void frmMDITombi::Zavri_Pro_Analyzu() {
 
 void frmMDITombi::Prepni_Den(Den den) {
     Sluzby_Okna->Nastav_Status(QString(), QString());
-    (den == Den::Nedele ? mnuSportka_nedele : den == Den::Patek ? mnuSportka_patek : mnuSportka_streda)
+    (den == Den::Nedele  ? mnuSportka_nedele
+     : den == Den::Patek ? mnuSportka_patek
+                         : mnuSportka_streda)
         ->setChecked(true);
     Pas_Stavu->txtSportka_Tah->setText(den == Den::Nedele  ? u"NEDĚLE"_qs
                                        : den == Den::Patek ? u"PÁTEK"_qs
@@ -524,7 +527,9 @@ void frmMDITombi::Tahy_Zalozeny() {
         return;
     Chybi_Tahy = false;
     const Den den = Den(Data_Relace.Tikety.Den_Tahu);
-    Pas_Stavu->txtSportka_Tah->setText(den == Den::Nedele ? u"NEDĚLE"_qs : den == Den::Patek ? u"PÁTEK"_qs : u"STŘEDA"_qs);
+    Pas_Stavu->txtSportka_Tah->setText(den == Den::Nedele  ? u"NEDĚLE"_qs
+                                       : den == Den::Patek ? u"PÁTEK"_qs
+                                                           : u"STŘEDA"_qs);
     Obnov_Povoleni();
 }
 

@@ -23,6 +23,7 @@
 #include "generator/frmGeneruj.h"
 #include "generator/frmGeneruj_Omezeni.h"
 #include "generator/frmGeneruj_Vyber.h"
+#include "printing/frmTiskTiketu.h"
 #include "tips/frmVypisTipu.h"
 #include "tips/frmVypisTipuVsech.h"
 #include "tips/frmVypisTipu_Vyhodnoceni.h"
@@ -213,6 +214,20 @@ int main(int argc, char** argv) {
                      emit generator->Vyber->picSloupec->Klik(n + 10 * kolo + 2, Qt::LeftButton, false);
                  generator->cmdOK->click();
              }
+             return prostredi.Okno.release();
+         }},
+        // Printing onto the paper tickets: the choice boxes, the shift and the range of tickets.
+        {u"frmTiskTiketu"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 28));
+             Uloz_Soubor(prostredi.Cesta(u"a.tip"_qs), Soubor_Tipu(24));
+             prostredi.Spust().resize(900, 600);
+             prostredi.Otevri_Tipy(u"a.tip"_qs);
+             prostredi.Okno->Zavri_Okno<frmVypisTipu>();
+             prostredi.Prikaz(u"mnuTiskTiketu"_qs)->trigger();
+             auto* tisk = prostredi.Okno->Najdi_Okno<frmTiskTiketu>();
+             tisk->Volba_Click(15);
+             tisk->txtOsa_X->setText(u"-2"_qs);
              return prostredi.Okno.release();
          }},
         // A wheel chosen and its numbers filled: its guarantees and chances under the list.
