@@ -135,4 +135,20 @@ Stranka Testovaci_Stranka(const Kalibrace& p, bool cisla_tiketu) {
     return s;
 }
 
+Stranka Kalibracni_Stranka(const Kalibrace& p) {
+    Stranka s;
+    const auto mm = [](int twipy) { return QString::number(twipy / Twipu_Na_Mm, 'f', 1).replace(u'.', u','); };
+    for (const auto& [r, sl] : {std::pair{0, 0}, std::pair{0, 4}, std::pair{9, 0}, std::pair{9, 4}, std::pair{4, 2}}) {
+        const int x = p.X0() + Krok_X * sl;
+        const int y = p.Y0() + Krok_Y * r;
+        s.Znacky.push_back(Krizek(x, y));
+        // The place of the cross's middle, written outside the block: left of the left column, right
+        // of the right one, under the middle cell.
+        const int tx = sl == 0 ? x - 1750 : sl == 4 ? x + Rameno + 60 : x - 600;
+        const int ty = sl == 2 ? y + Rameno + 60 : y;
+        s.Znacky.push_back({true, tx, ty, u"%1 ; %2 mm"_qs.arg(mm(x + Rameno / 2), mm(y + Rameno / 2))});
+    }
+    return s;
+}
+
 } // namespace Tisk_Tiketu

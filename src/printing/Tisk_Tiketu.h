@@ -80,4 +80,9 @@ std::vector<Stranka> Stranky(const Zaznam_Tipu& soubor, int od, int pocet, const
 // ticket numbers are printed and a cross beside it, and a cross in each choice box.
 Stranka Testovaci_Stranka(const Kalibrace& poloha, bool cisla_tiketu);
 
+// The calibration page: a cross at the four corner cells and the middle cell of column block 1,
+// each with its place from the sheet's corner in millimetres written beside it, so a ruler on the
+// printed sheet tells how far the printer puts a cross from where it was meant.
+Stranka Kalibracni_Stranka(const Kalibrace& poloha);
+
 } // namespace Tisk_Tiketu

@@ -97,6 +97,7 @@ frmTiskTiketu::frmTiskTiketu(frmMDITombi& ram, QWidget* parent)
       txtOsa_X(Okno.Pojmenuj(new QLineEdit(u"0"_qs, this), u"txtOsa_X"_qs)),
       txtOsa_Y(Okno.Pojmenuj(new QLineEdit(u"0"_qs, this), u"txtOsa_Y"_qs)),
       cmdTest(Okno.Pojmenuj(new QPushButton(this), u"cmdTest"_qs)),
+      cmdKalibrace(Okno.Pojmenuj(new QPushButton(this), u"cmdKalibrace"_qs)),
       Command1(Okno.Pojmenuj(new QPushButton(this), u"Command1"_qs)),
       Check2(Okno.Pojmenuj(new QCheckBox(this), u"Check2"_qs)),
       txtAktualni_Tiket(Okno.Pojmenuj(new QLineEdit(this), u"txtAktualni_Tiket"_qs)),
@@ -157,6 +158,7 @@ frmTiskTiketu::frmTiskTiketu(frmMDITombi& ram, QWidget* parent)
     connect(txtAktualni_Tiket, &QLineEdit::textChanged, this, &frmTiskTiketu::Aktualni_Zmenen);
     connect(cmdTest, &QPushButton::clicked, this, &frmTiskTiketu::Test_Click);
     connect(Command1, &QPushButton::clicked, this, &frmTiskTiketu::Reset_Click);
+    connect(cmdKalibrace, &QPushButton::clicked, this, [this] { Tiskni({Kalibracni_Stranka(Poloha)}); });
     connect(cmdTisk, &QPushButton::clicked, this, [this] {
         if (Pocet_Tipu_V_Souboru(Sezeni.Tipy.Soubor_Tipu) < 1 && !Jen_Volby) {
             Sezeni.Sluzby->Zprava(u"Nejsou žádně tipy pro vyplnění tiketů"_qs);
@@ -203,6 +205,7 @@ QWidget* frmTiskTiketu::Posuv() {
     mrizka->addLayout(hustota, 2, 0, 1, 3);
     mrizka->addWidget(cmdTest, 3, 0, 1, 2);
     mrizka->addWidget(Command1, 3, 2);
+    mrizka->addWidget(cmdKalibrace, 4, 0, 1, 3);
     return ramec;
 }
 
@@ -373,18 +376,20 @@ void frmTiskTiketu::Nahled() {
     tiskarna.setFullPage(true);
     const auto obnov = qScopeGuard([&] { tiskarna.setFullPage(cela_strana); });
     QPrintPreviewDialog nahled(&tiskarna, this);
-    const int od = modNastaveni_Ovladani::Cele_Cislo(txtAktualni_Tiket);
-    const int pocet = modNastaveni_Ovladani::Cele_Cislo(txtPocet_Tisknout);
-    connect(&nahled, &QPrintPreviewDialog::paintRequested, this, [this, od, pocet](QPrinter* cil) {
-        QPainter kreslic(cil);
-        const std::vector<Stranka> stranky = Stranky(Sezeni.Tipy.Soubor_Tipu, od, pocet, Zadani());
-        for (std::size_t i = 0; i < stranky.size(); ++i) {
-            if (i > 0)
-                cil->newPage();
-            Kresli(kreslic, *cil, stranky[i], true);
-        }
-    });
+    connect(&nahled, &QPrintPreviewDialog::paintRequested, this, &frmTiskTiketu::Kresli_Nahled);
     nahled.exec();
+}
+
+void frmTiskTiketu::Kresli_Nahled(QPrinter* cil) const {
+    QPainter kreslic(cil);
+    const std::vector<Stranka> stranky =
+        Stranky(Sezeni.Tipy.Soubor_Tipu, modNastaveni_Ovladani::Cele_Cislo(txtAktualni_Tiket),
+                modNastaveni_Ovladani::Cele_Cislo(txtPocet_Tisknout), Zadani());
+    for (std::size_t i = 0; i < stranky.size(); ++i) {
+        if (i > 0)
+            cil->newPage();
+        Kresli(kreslic, *cil, stranky[i], true);
+    }
 }
 
 void frmTiskTiketu::Pripoj_Prikazy(frmMDITombi& ram) {

@@ -52,12 +52,16 @@ public:
     bool Tisk(int od, int pocet);
     // A click on choice box `volba` of the picture.
     void Volba_Click(int volba);
+    // The pages of the range of tickets over the outline of the ticket's boxes, as the preview
+    // shows them.
+    void Kresli_Nahled(QPrinter* cil) const;
 
     frmTiskTiketu_Volby* pctTiket_Slos;
     QLineEdit* txtOsa_X;
     QLineEdit* txtOsa_Y;
     std::array<QRadioButton*, 3> Option2{};
     QPushButton* cmdTest;
+    QPushButton* cmdKalibrace; // a page of five crosses with their places in mm, to measure
     QPushButton* Command1;
     QCheckBox* Check2;
     QLineEdit* txtAktualni_Tiket;

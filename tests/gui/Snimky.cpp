@@ -37,6 +37,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -229,6 +231,28 @@ int main(int argc, char** argv) {
              tisk->Volba_Click(15);
              tisk->txtOsa_X->setText(u"-2"_qs);
              return prostredi.Okno.release();
+         }},
+        // The preview of the first ticket over the outline of the ticket's boxes.
+        {u"frmTiskTiketu_Nahled"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 28));
+             Uloz_Soubor(prostredi.Cesta(u"a.tip"_qs), Soubor_Tipu(24));
+             prostredi.Spust();
+             prostredi.Otevri_Tipy(u"a.tip"_qs);
+             prostredi.Prikaz(u"mnuTiskTiketu"_qs)->trigger();
+             auto* tisk = prostredi.Okno->Najdi_Okno<frmTiskTiketu>();
+             tisk->Check2->setChecked(true);
+             // The frame and the printer stay for the life of the program, as the pictures' windows do.
+             prostredi.Okno.release();
+             auto* tiskarna = new QPrinter(QPrinter::HighResolution);
+             tiskarna->setOutputFormat(QPrinter::PdfFormat);
+             tiskarna->setFullPage(true);
+             auto* nahled = new QPrintPreviewWidget(tiskarna);
+             QObject::connect(nahled, &QPrintPreviewWidget::paintRequested, tisk, &frmTiskTiketu::Kresli_Nahled);
+             nahled->resize(700, 900);
+             nahled->setZoomMode(QPrintPreviewWidget::FitToWidth);
+             nahled->updatePreview();
+             return nahled;
          }},
         // A wheel chosen and its numbers filled: its guarantees and chances under the list.
         {u"frmGeneruj_Rozpis"_qs,

@@ -88,6 +88,12 @@ private slots:
         zadani.Jen_Volby = true;
         QCOMPARE(Stranky(*z, 1, 5, zadani).size(), std::size_t(1));
         QCOMPARE(Testovaci_Stranka({}, true).Znacky.size(), std::size_t(1 + 500 + 1 + 2 + 4 + 1 + 9 + 1));
+        // The calibration page: the corner and middle cells of block 1, each with its place in mm
+        // (the middle of the cross of cell 1 is at 2927, 489 twips: 51,8 and 8,7 mm).
+        const Stranka kalibrace = Kalibracni_Stranka({});
+        QCOMPARE(Krizky(kalibrace), (std::vector<std::pair<int, int>>{
+                                        {2882, 444}, {3822, 444}, {2882, 2469}, {3822, 2469}, {3352, 1344}}));
+        QCOMPARE(kalibrace.Znacky[1].Text, u"51,8 ; 8,7 mm"_qs);
     }
 
     void Prikaz_Cli() {
