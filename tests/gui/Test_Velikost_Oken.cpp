@@ -72,7 +72,7 @@ private slots:
         QTest::addColumn<QString>("prikaz");
         for (const char* prikaz :
              {"mnuOProgramu", "mnuHelp", "mnuPrehled", "mnuGenerujTipy", "frmVypisTipuVsech", "mnuVyhodnoceniTipu",
-              "mnuVlastniTipy", "mnuVypisTahu", "mnuRozsirSouborTahy", "mnuAnalyza", "mnuVypisAnalyz"})
+              "mnuVlastniTipy", "mnuVypisTahu", "mnuRozsirSouborTahy", "mnuAnalyza", "mnuVypisAnalyz", "mnuTiskTiketu"})
             QTest::newRow(prikaz) << QString::fromLatin1(prikaz);
     }
 
