@@ -5,6 +5,7 @@
 // session.
 
 #include "analysis/Analyza_Tahu.h"
+#include "bettors/Seznam_Sazejicich.h"
 #include "core/Random.h"
 #include "core/pTikety.h"
 #include "data/Archiv_Tahu.h"
@@ -62,8 +63,8 @@ struct Relace {
     Stav_Analyzy Analyza;
     // Vybrana_Cisla: the numbers picked out of the analysis, the draw list or the viewer, [1..49].
     std::array<uint8_t, 50> Vybrana_Cisla{};
-    // Bettors of the loaded list; above 0 the list sets the count of tips of the generator.
-    int Pocet_Sazejicich = 0;
+    // The open bettors' list; with bettors in it, the list sets the count of tips of the generator.
+    Stav_Seznamu Seznam;
     Nastaveni_Zaznam Nastaveni;
     pTikety Tikety;
     ::Random Random;

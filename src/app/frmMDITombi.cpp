@@ -24,6 +24,7 @@
 #include "data/Nedavne_Soubory.h"
 #include "data/Soubory.h"
 #include "generator/frmGeneruj.h"
+#include "bettors/frmSeznamSazejicich.h"
 #include "printing/frmTiskTiketu.h"
 #include "tips/frmVypisTipu.h"
 #include "tips/frmVypisTipuVsech.h"
@@ -107,6 +108,7 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
     frmVypisTipu::Pripoj_Prikazy(*this);
     frmGeneruj::Pripoj_Prikazy(*this);
     frmTiskTiketu::Pripoj_Prikazy(*this);
+    frmSeznamSazejicich::Pripoj_Prikazy(*this);
     frmAnalyzaTahu::Pripoj_Prikazy(*this);
     frmVypisTahu::Pripoj_Prikazy(*this);
     Timer2 = new QTimer(this);
@@ -229,11 +231,11 @@ bool frmMDITombi::Je_Nehotovy(const QAction* prikaz) const {
     // Commands whose windows are still to come stay off; a command is switched on by taking it
     // out of this list once its window connects it.
     const QAction* const nehotove[] = {
-        mnuDownload, mnuOtevriSeznam, mnuNovySeznam, mnuVypisSeznamu, mnuUvolnit, mnuKonfigurace, mnuWebTombiNovaVer,
+        mnuDownload,
+        mnuKonfigurace,
+        mnuWebTombiNovaVer,
     };
-    return std::find(std::begin(nehotove), std::end(nehotove), prikaz) != std::end(nehotove) ||
-           (prikaz != mnuSeznamFile[0] &&
-            std::find(mnuSeznamFile.begin(), mnuSeznamFile.end(), prikaz) != mnuSeznamFile.end());
+    return std::find(std::begin(nehotove), std::end(nehotove), prikaz) != std::end(nehotove);
 }
 
 void frmMDITombi::Nastav_Zamek(const QString& jmeno, Zamek zamek) {
@@ -490,13 +492,14 @@ void frmMDITombi::Zavri_Formulare(int od) {
 
 void frmMDITombi::Zavri_Pro_Analyzu() {
     // In this order: the tip list, the draw list, the generator, the list of all tips, the
-    // bettors' list, the notice, ticket printing and the about window; each window joins here once
-    // it is built.
+    // bettors' list, the notice, ticket printing and the about window.
     Zavri_Okno<frmVypisTipu>();
     Zavri_Okno<frmVypisTahu>();
     Zavri_Okno<frmGeneruj>();
     Zavri_Okno<frmVypisTipuVsech>();
+    Zavri_Okno<frmSeznamSazejicich>();
     Sluzby_Okna->Zavri_Oznameni();
+    Zavri_Okno<frmTiskTiketu>();
     Zavri_Okno<frmOProgramu>();
     Pas_Stavu->txtRozpisAktivni->clear();
 }

@@ -4,6 +4,7 @@
 #include "app/Relace.h"
 #include "app/Sluzby_Oken.h"
 #include "app/frmMDITombi.h"
+#include "bettors/frmSeznamSazejicich.h"
 #include "data/Nedavne_Soubory.h"
 #include "data/Operace_Tipu.h"
 #include "data/Soubory.h"
@@ -74,6 +75,7 @@ void mnuKonverzeSouboruTipu_Click(frmMDITombi& ram) {
         return;
     }
     relace.Sluzby->Zprava(Text_Konverze_Hotova);
+    Nacti_Navazany_Seznam(ram);
     Po_Nacteni(ram, cesta);
 }
 
@@ -194,7 +196,25 @@ void Otevri_Soubor_Tipu(frmMDITombi& ram, const QString& cesta, Otevreni otevren
         return;
     }
     Po_Otevreni_Tipu(relace.Tipy, cesta);
+    Nacti_Navazany_Seznam(ram);
     Po_Nacteni(ram, cesta);
+}
+
+void Nacti_Navazany_Seznam(frmMDITombi& ram) {
+    Relace& relace = ram.Sezeni();
+    relace.Seznam.Vyprazdni();
+    ram.Zavri_Okno<frmSeznamSazejicich>();
+    const QString& seznam = relace.Tipy.Soubor_Tipu.Seznam_Soubor;
+    if (seznam.size() <= 2)
+        return;
+    const QString cesta = Spoj_Cestu(relace.Nastaveni.Adresare[2], seznam);
+    // A list that has gone leaves the tips without one; the user is told, the tips stay open.
+    const Vysledek nacteni = QFileInfo(cesta).isFile()
+                                 ? Nacti_Seznam(relace.Seznam, cesta)
+                                 : Vysledek::Chyba(u"Seznam sázejících \""_qs + seznam +
+                                                   u"\" souboru tipů nebyl nalezen ve složce seznamů."_qs);
+    if (!nacteni.Ok())
+        relace.Sluzby->Zprava(nacteni.Zprava);
 }
 
 void Zapomen_Soubor_Tipu(Relace& relace) {

@@ -16,5 +16,8 @@ void Pripoj_Prikazy(frmMDITombi& ram);
 void Otevri_Soubor_Tipu(frmMDITombi& ram, const QString& cesta, Otevreni otevreni);
 // Forgets the open tip file: no active tips, no name, "0 tipů".
 void Zapomen_Soubor_Tipu(Relace& relace);
+// The tips just read bring their bettors' list: the open list is emptied and its window closed, and
+// the list the file names is read from the lists' folder.
+void Nacti_Navazany_Seznam(frmMDITombi& ram);
 
 } // namespace frmMDITombi_Tipy

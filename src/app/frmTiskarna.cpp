@@ -72,6 +72,14 @@ void frmTiskarna::Novy_Radek() {
     }
 }
 
+void frmTiskarna::Nova_Strana() {
+    if (!Ok())
+        return;
+    Tiskarna.newPage();
+    X = 0;
+    Y = 0;
+}
+
 void frmTiskarna::Konec() {
     if (Kreslic.isActive())
         Kreslic.end();

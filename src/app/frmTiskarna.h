@@ -33,6 +33,8 @@ public:
     void Radek(const QString& text = {});
     // The width of a text in the current font, in twips.
     double Sirka_Twips(const QString& text) const;
+    // The next page, from its top.
+    void Nova_Strana();
     // Ends the document.
     void Konec();
 

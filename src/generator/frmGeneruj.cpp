@@ -176,7 +176,7 @@ frmGeneruj::frmGeneruj(frmMDITombi& ram, QWidget* parent)
     chkSance->setChecked(stav.Stav_Sance);
     // A wheel file is read anew at each choice, so a reopened window starts without one; a built-in
     // wheel stands as it was left, with its numbers.
-    if (poprve || stav.Cislo_Rozpisu == modRozpisy::Rozpis_Ze_Souboru || Sezeni.Pocet_Sazejicich > 0)
+    if (poprve || stav.Cislo_Rozpisu == modRozpisy::Rozpis_Ze_Souboru || Sezeni.Seznam.Pocet_Sazejicich() > 0)
         lstSportka_Click(0);
     else if (const modRozpisy::Tabulka_Rozpisu* t = modRozpisy::Tabulka(stav.Cislo_Rozpisu))
         Ukaz_Rozpis(stav.Cislo_Rozpisu, modRozpisy::Rozmery_Rozpisu{t->Tutovek, t->Sloupcu, t->Cisel});
@@ -275,7 +275,7 @@ void frmGeneruj::Spocitej_Vklad() {
 
 void frmGeneruj::lstSportka_Click(int index) {
     Stav_Generatoru& stav = Sezeni.Generator;
-    stav.Cislo_Rozpisu = Sezeni.Pocet_Sazejicich > 0 ? 0 : std::max(0, index);
+    stav.Cislo_Rozpisu = Sezeni.Seznam.Pocet_Sazejicich() > 0 ? 0 : std::max(0, index);
     Omezeni->Povol_Omezeni();
     chkSpojvatRozpisy->hide();
     Vyber->optZpusob_Vyberu[0]->setChecked(true);
@@ -317,7 +317,7 @@ void frmGeneruj::Ukaz_Rozpis(int cislo, const std::optional<modRozpisy::Rozmery_
     QString titulek = Tabulka_Textu::Programu().Text(Okno.Jmeno);
     if (cislo == 0) {
         Omezeni->Povol_Omezeni();
-        if (Sezeni.Pocet_Sazejicich == 0)
+        if (Sezeni.Seznam.Pocet_Sazejicich() == 0)
             Zamkni_Pocty(false);
     } else {
         Omezeni->Zakaz_Omezeni();
@@ -380,7 +380,7 @@ void frmGeneruj::Zamkni_Pocty(bool zamknout) {
 }
 
 void frmGeneruj::Nastav_Seznam_Sazejicich() {
-    const bool seznam = Sezeni.Pocet_Sazejicich > 0;
+    const bool seznam = Sezeni.Seznam.Pocet_Sazejicich() > 0;
     fraTypyRozpisu->setVisible(!seznam);
     chkSance->setVisible(!seznam);
     cmdUvolnit_Seznam_Sazejicich->setEnabled(seznam);
@@ -390,7 +390,7 @@ void frmGeneruj::Nastav_Seznam_Sazejicich() {
 }
 
 void frmGeneruj::cmdUvolnit_Click() {
-    Sezeni.Pocet_Sazejicich = 0;
+    Sezeni.Seznam.Vyprazdni();
     lstSportka->setCurrentRow(0);
     chkSance->setChecked(false);
     Nastav_Seznam_Sazejicich();

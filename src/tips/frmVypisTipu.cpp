@@ -14,6 +14,7 @@
 #include "core/Tabulka_Textu.h"
 #include "core/Vb.h"
 #include "core/pTikety.h"
+#include "data/Chyby_A_Prehled.h"
 #include "data/Nedavne_Soubory.h"
 #include "data/Soubory.h"
 #include "generator/frmGeneruj.h"
@@ -600,7 +601,7 @@ void frmVypisTipu::cmdZrusTip_Click() {
     // The list stands in 12 lines a ticket: the head, ten tips, the gap.
     int tiket = 0, sloupec = 0;
     pTikety::Zjisti_Tik_Slo(radek, Radku_Na_Tiket, tiket, sloupec);
-    if ((Sezeni.Pocet_Sazejicich > 0 || Sezeni.Generator.Vyber.Rozpis_Aktivni) &&
+    if ((Sezeni.Seznam.Pocet_Sazejicich() > 0 || Sezeni.Generator.Vyber.Rozpis_Aktivni) &&
         Sezeni.Dialog->Otazka(Dialogy::Ikona::Vykricnik, u"                              P O Z O R  !!!"_qs,
                               u"                             Máte zvolen\r\n\"ROZPIS\" nebo je vazba na \"SEZNAM "
                               u"SÁZEJÍCÍCH\"\r\n          Opravdu si přejete zrušit označený tip ?"_qs,
@@ -643,6 +644,12 @@ void frmVypisTipu::cmdUlozTipy_Click() {
     }
     Sezeni.Tikety.Zmena_Dat = false;
     tipy.Je_Soubor_Tipu = true;
+    if (Sezeni.Seznam.Pocet_Sazejicich() >= 1) {
+        const Vysledek prehled = Pridej_Do_Prehledu(Sezeni.Nastaveni.Adresare[2], jmeno,
+                                                    tipy.Soubor_Tipu.Seznam_Soubor, Sezeni.Cas->Ted());
+        if (!prehled.Ok())
+            Sezeni.Sluzby->Zprava(prehled.Zprava);
+    }
     Ram.Pridej_Nedavny(Druh_Tipy, jmeno);
     Sezeni.Sluzby->Zprava(u"Soubor s tipy uložen pod jménem  \""_qs + jmeno + u"\"."_qs);
 }

@@ -126,7 +126,12 @@ frmVypisTipu_Vyhry::frmVypisTipu_Vyhry(Relace& sezeni, QWidget* parent)
     });
     connect(cmdTisk_Vyhernich_Tipu, &QPushButton::clicked, this, &frmVypisTipu_Vyhry::Tiskni_Vyhravajici_Tikety);
     // The bettors' wins come with their list; without one the printout says so.
-    connect(Command1, &QPushButton::clicked, this, [this] { Tiskni_Vyherni_Listinu({}); });
+    connect(Command1, &QPushButton::clicked, this, [this] {
+        std::vector<Vyhra_Sazejiciho> vyhry;
+        for (const Sazejici& s : Sezeni.Seznam.Seznam)
+            vyhry.push_back({s.Jmeno, s.Vyhra.Korun()});
+        Tiskni_Vyherni_Listinu(vyhry);
+    });
 }
 
 frmVypisTipu_Vyhry::~frmVypisTipu_Vyhry() = default;
@@ -299,6 +304,13 @@ void frmVypisTipu_Vyhry::Spocti_Uspech() {
     // A stake of 0 leaves the per cent as it stood.
     if (const std::optional<double> zisk = Zisk_Procent(Hodnota(txtCelkemVyhra), Hodnota(txtVklad)))
         txtUspech->setText(Vb::Format(*zisk, u"### ### ###"));
+    Rozdel_Vyhru();
+}
+
+void frmVypisTipu_Vyhry::Rozdel_Vyhru() {
+    lstSazejiciVypis->clear();
+    lstSazejiciVypis->addItems(::Rozdel_Vyhru(Sezeni.Seznam.Seznam, Hodnota(txtCelkemVyhra)));
+    lblPocetRadkuSazejici->setText(Vb::Format(lstSazejiciVypis->count(), u"### ###"));
 }
 
 void frmVypisTipu_Vyhry::Obarvi_Pocet(QLineEdit* pocet) {
@@ -478,7 +490,9 @@ void frmVypisTipu_Vyhry::Tiskni_Vyherni_Listinu(const std::vector<Vyhra_Sazejici
         // Blanks to align the amounts: never fewer than none, however long the name.
         const int mezer = std::max(0, int((2500 - tisk.Sirka_Twips(s.Jmeno)) / 45));
         tisk.Text(u"    "_qs + s.Jmeno + QString(mezer, u' '));
-        tisk.Zona(Vb::Format(s.Vyhra, u"### ### ###") + u",-"_qs);
+        // Whole crowns as ",-"; a share with hellers keeps them, or the sheet would pay out a wrong sum.
+        const bool cele = s.Vyhra == std::floor(s.Vyhra);
+        tisk.Zona(cele ? Vb::Format(s.Vyhra, u"### ### ###") + u",-"_qs : Vb::Format(s.Vyhra, u"### ### ##0.00"));
         tisk.Radek();
         tisk.Radek(cara);
         tisk.Radek();

@@ -45,6 +45,8 @@ public:
     // The prizes now in the boxes, first and second draw.
     std::array<Ceny_Tahu, 2> Ceny() const;
 
+    // The split of the total win among the bettors of the open list into lstSazejiciVypis.
+    void Rozdel_Vyhru();
     void Tiskni_Vyhravajici_Tikety();
     void Tiskni_Vyherni_Listinu(const std::vector<Vyhra_Sazejiciho>& sazejici);
 

@@ -195,13 +195,13 @@ private slots:
     void Sazejici_A_Cisla_Ze_Stavu() {
         Prostredi prostredi(QDate(2026, 11, 28));
         frmMDITombi& okno = prostredi.Spust();
-        prostredi.Data->Pocet_Sazejicich = 4;
+        prostredi.Data->Seznam.Seznam.resize(4);
         frmGeneruj* generator = Otevri_Generator(prostredi);
         QVERIFY(!generator->fraTypyRozpisu->isVisible());
         QVERIFY(!generator->chkSance->isVisible());
         QVERIFY(!generator->txtPoc_Tipu->isEnabled());
         QTest::mouseClick(generator->cmdUvolnit_Seznam_Sazejicich, Qt::LeftButton);
-        QCOMPARE(prostredi.Data->Pocet_Sazejicich, 0);
+        QCOMPARE(prostredi.Data->Seznam.Pocet_Sazejicich(), 0);
         QVERIFY(generator->fraTypyRozpisu->isVisible());
         QVERIFY(generator->txtPoc_Tipu->isEnabled());
         QCOMPARE(generator->txtPoc_Tipu->text(), u"8"_qs);

@@ -49,12 +49,12 @@ private slots:
 
         // With a bettors' list the deletion asks first; No keeps the tip.
         seznam->setCurrentRow(13);
-        prostredi.Data->Pocet_Sazejicich = 2;
+        prostredi.Data->Seznam.Seznam.resize(2);
         prostredi.Dialogy.Odpovedi.enqueue(Dialogy::Odpoved::Ne);
         QTest::mouseClick(vypis->cmdZrusTip, Qt::LeftButton);
         QCOMPARE(int(prostredi.Data->Tipy.Pocet_Tipu_Aktivni), 25);
         QVERIFY(prostredi.Dialogy.Okna.last().contains(u"Opravdu si přejete zrušit označený tip ?"_qs));
-        prostredi.Data->Pocet_Sazejicich = 0;
+        prostredi.Data->Seznam.Vyprazdni();
 
         // The first tip of ticket 2 goes; the undo brings it back.
         QTest::mouseClick(vypis->cmdZrusTip, Qt::LeftButton);

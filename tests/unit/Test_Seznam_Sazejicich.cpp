@@ -1,7 +1,12 @@
 // The bettors' list: a .szn made byte by byte reads into its records and writes back the same
-// bytes, a file cut inside a record is refused whole, and the shares are worked out per cent.
+// bytes, a file cut inside a record is refused whole; shares, money and the split of a win; the
+// printout texts and the leaflet's file and command.
 #include "Bajty.h"
 #include "bettors/Seznam_Sazejicich.h"
+#include "bettors/Vypisy_Seznamu.h"
+
+#include <QFile>
+#include <QTemporaryDir>
 
 #include <QTest>
 
@@ -37,35 +42,109 @@ private slots:
         QVERIFY(Cti_Seznam({}, u"a.szn"_qs, seznam).Ok() && seznam.empty());
     }
 
-    void Podily() {
-        std::vector<Sazejici> seznam(2);
-        seznam[0].Vklad = Vb::Mena::Z_Korun(100);
-        seznam[1].Vklad = Vb::Mena::Z_Korun(300);
-        Prepocti_Podily(seznam, 400);
+    void Podily_A_Penize() {
+        // Shares follow the sum of all stakes, also after a repair.
+        std::vector<Sazejici> seznam;
+        QVERIFY(Pridej_Sazejiciho(seznam, u"Jan"_qs, 100, 0).Ok());
+        QVERIFY(Pridej_Sazejiciho(seznam, u"Eva"_qs, 100, 0).Ok());
+        QVERIFY(Pridej_Sazejiciho(seznam, u"Eva"_qs, 300, 0, 1).Ok());
         QCOMPARE(std::pair(seznam[0].Podil.Korun(), seznam[1].Podil.Korun()), std::pair(25.0, 75.0));
+        QCOMPARE(Pridej_Sazejiciho(seznam, u"Jan"_qs, 5, 0).Zprava, u"Pozor, jméno již v seznamu nebo není zadáno ..."_qs);
+        QCOMPARE(Pridej_Sazejiciho(seznam, u""_qs, 5, 0).Zprava, u"Pozor, jméno již v seznamu nebo není zadáno ..."_qs);
+        QCOMPARE(Pridej_Sazejiciho(seznam, u"Ota"_qs, 0, 0).Zprava, u"Chybí JMÉNO nebo VKLAD."_qs);
+        QCOMPARE(Pridej_Sazejiciho(seznam, QString(47, u'x'), 5, 0).Zprava,
+                 u"Jméno je příliš dlouhé, prosím zkrátit !!!"_qs);
+        QCOMPARE(Pridej_Sazejiciho(seznam, u"Ota"_qs, 200, 500).Zprava, u"Překročena maximální výše vkladu 500 Kč."_qs);
+        QCOMPARE(seznam.size(), std::size_t(2));
+        QCOMPARE(Radek_Seznamu(seznam[0]), u"Jan"_qs + QString(42, u' ') + u"\t   100\t   25,0"_qs);
+
+        // 400 Kč less 10 % leaves 360: 18 tips at 20 Kč. With Šance at 10 Kč a ticket fewer tips, and
+        // tips, tickets and rest add up to the money.
+        Penize_Seznamu p = Spocti_Penize(seznam, 10, 20, 0);
+        QCOMPARE(std::tuple(p.Vklad, p.Provize, p.Na_Tipy, p.Pocet_Tipu, p.Pocet_Tiketu, p.Zbytek),
+                 std::tuple(400.0, 40.0, 360.0, 18.0, 2.0, 0.0));
+        p = Spocti_Penize(seznam, 10, 20, 10);
+        QVERIFY(p.Pocet_Tipu < 18 && p.Zbytek >= 0);
+        QCOMPARE(p.Pocet_Tipu * 20 + p.Pocet_Tiketu * 10 + p.Zbytek, 360.0);
+
+        // Thirds of 1 Kč each stay 33.3: no correction to 100.
         std::vector<Sazejici> tri(3);
         for (Sazejici& s : tri)
             s.Vklad = Vb::Mena::Z_Korun(1);
         Prepocti_Podily(tri, 3);
         for (const Sazejici& s : tri)
             QCOMPARE(s.Podil.Korun(), 33.3);
+    }
 
-        // A win of 1000 splits 250,00 and 750,00; names 450 twips wide stand 34 blanks from it.
+    void Rozdeleni_Vyhry() {
+        std::vector<Sazejici> seznam(2);
         seznam[0].Jmeno = u"Jan"_qs;
         seznam[1].Jmeno = u"Eva"_qs;
-        const auto sirka = [](const QString&) { return 450; };
-        const QStringList radky = Rozdel_Vyhru(seznam, 1000, sirka);
+        seznam[0].Podil = Vb::Mena::Z_Korun(25);
+        seznam[1].Podil = Vb::Mena::Z_Korun(75);
+        const QStringList radky = Rozdel_Vyhru(seznam, 1000);
         QCOMPARE(radky.size(), 4);
-        QVERIFY(radky[0].startsWith(u"Jan"_qs + QString(34, u' ')));
-        QVERIFY2(radky[0].endsWith(u"250,00"_qs), qPrintable(radky[0]));
+        QCOMPARE(radky[0], u"Jan"_qs + QString(43, u' ') + u"250,00"_qs);
         QCOMPARE(seznam[1].Vyhra.Korun(), 750.0);
         QVERIFY(radky[3].startsWith(u"   CELKEM"_qs) && radky[3].endsWith(u"1 000,00 Kč"_qs));
-        // Thirds of 100: each 33,30; a bettor without a name gets nothing.
+        // Thirds of 100: each 33,30, and the sum shared keeps its hundredths; no name, no share.
+        std::vector<Sazejici> tri(3);
+        for (Sazejici& s : tri)
+            s.Podil = Vb::Mena::Z_Korun(33.3);
         tri[0].Jmeno = tri[1].Jmeno = u"A"_qs;
-        QVERIFY(Rozdel_Vyhru(tri, 100, sirka).last().endsWith(u" 66,60 Kč"_qs));
+        QVERIFY(Rozdel_Vyhru(tri, 100).last().endsWith(u" 66,60 Kč"_qs));
         QCOMPARE(tri[2].Vyhra.Korun(), 0.0);
-        QCOMPARE(tri[0].Vyhra.Korun(), 33.3);
-        QVERIFY(Rozdel_Vyhru(tri, 0, sirka).isEmpty());
+        QVERIFY(Rozdel_Vyhru(tri, 0).isEmpty());
+    }
+
+    void Soubor_Seznamu() {
+        QTemporaryDir slozka;
+        const QString cesta = slozka.filePath(u"parta.szn"_qs);
+        Stav_Seznamu stav;
+        QVERIFY(Pridej_Sazejiciho(stav.Seznam, u"Jan"_qs, 100, 0).Ok());
+        QVERIFY(Uloz_Seznam(stav, cesta).Ok());
+        QCOMPARE(stav.Seznam_Jmeno, u"parta.szn"_qs);
+        Stav_Seznamu nacteny;
+        QVERIFY(Nacti_Seznam(nacteny, cesta).Ok());
+        QCOMPARE(nacteny.Seznam, stav.Seznam);
+        QVERIFY(nacteny.Zmena_Seznamu);
+        // An empty file is deleted and leaves no list open.
+        Zapis_Souboru(cesta, {});
+        QVERIFY(Nacti_Seznam(nacteny, cesta).Ok());
+        QCOMPARE(nacteny.Pocet_Sazejicich(), 0);
+        QVERIFY(!QFile::exists(cesta));
+    }
+
+    void Vypisy() {
+        std::vector<Sazejici> seznam;
+        QVERIFY(Pridej_Sazejiciho(seznam, u"Jan"_qs, 1500, 0).Ok());
+        const Vypisy_Seznamu::Hlavicka h{u"29.11.2026"_qs, u"5"_qs, Spocti_Penize(seznam, 5, 20, 0), u"S_parta"_qs};
+        QCOMPARE(Vypisy_Seznamu::Do_Souboru(Vypisy_Seznamu::Celkovy(seznam, h)),
+                 Vb::Do_1250(u"Seznam sázejících pro tah dne   29.11.2026\r\n\r\n   Jméno\t\tvklad  Kč\t\tpodíl %\r\n"
+                             u"Jan\t  1 500\t 100,0\t\t\r\n\r\nCelkem vsazeno  - 1 500 Kč\r\n"
+                             u"Provize               - 5 %  =   75 Kč\r\n\r\nS_parta  \r\n"_qs));
+        Zaznam_Tipu tipy;
+        tipy.Pocet_Tiketu = 2;
+        for (int s = 1; s <= 6; ++s)
+            tipy.Tikety[1].Cisla[s] = Tip{uint8_t(s), 10, 20, 30, 40, 49};
+        tipy.Tikety[2].Cisla[3] = Tip{1, 2, 3, 4, 5, 6};
+        const QString tip1 = u"1   10 20 30 40 49 \t"_qs;
+        QCOMPARE(Vypisy_Seznamu::Tipy(tipy),
+                 (QStringList{u"1"_qs, tip1 + u"2   10 20 30 40 49 \t3   10 20 30 40 49 \t4   10 20 30 40 49 \t"
+                                              u"5   10 20 30 40 49 \t"_qs,
+                              u"6   10 20 30 40 49 \t"_qs, u"2"_qs, u"1   2   3   4   5   6   \t"_qs}));
+        Sazejici lomitko;
+        lomitko.Jmeno = u"A/B"_qs;
+        QCOMPARE(Vypisy_Seznamu::Soubor_Jednotliveho(lomitko, u"S_parta"_qs), u"A_B_S_parta.txt"_qs);
+    }
+
+    void Letak() {
+        QTemporaryDir slozka;
+        Zapis_Souboru(slozka.filePath(u"l_hp4.prn"_qs), "\x1b" "E");
+        QCOMPARE(Vypisy_Seznamu::Najdi_Letak(slozka.path(), 5), slozka.filePath(u"l_hp4.prn"_qs));
+        QVERIFY(Vypisy_Seznamu::Najdi_Letak(slozka.path(), 4).isEmpty());
+        QCOMPARE(Vypisy_Seznamu::Prikaz_Letaku(u"HP"_qs, u"/a/L_HP4.PRN"_qs),
+                 (QStringList{u"-d"_qs, u"HP"_qs, u"-o"_qs, u"raw"_qs, u"--"_qs, u"/a/L_HP4.PRN"_qs}));
     }
 };
 
