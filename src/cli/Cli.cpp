@@ -25,6 +25,7 @@ const char* const Pouziti =
     "  tombi-cli wheel --rzp SOUBOR.rzp [--cisla \"n1 n2 ...\" --tutovky A,B,C --tikety M --out SOUBOR.tip]\n"
     "  tombi-cli print SOUBOR.tip [--od T1] [--pocet P] [--osa-x MM] [--osa-y MM] [--cislo-tiketu]\n"
     "      [--den streda|nedele] [--sance]\n"
+    "  tombi-cli bettors SOUBOR.szn [--vyhra KC]\n"
     "  tombi-cli cfg SOUBOR\n"
     "  tombi-cli generate --tipy N [--tikety M] [--tutovky A,B,C] [--pouzit SEZNAM | --vynechat SEZNAM]\n"
     "      [--rsk S,R,K] [--treti N] [--ceny ARCHIV.sez] [--dekada N] [--neopakovat] [--sudlich S,L,R]\n"

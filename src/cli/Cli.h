@@ -63,3 +63,5 @@ int Operace_Tipu(const QStringList& args);
 int Rozpisy(const QStringList& args);
 // print FILE.tip ...: the marks of the printed tickets.
 int Tisk(const QStringList& args);
+// bettors FILE.szn [--vyhra KC]: a bettors' list and the split of a win.
+int Seznam_Sazejicich(const QStringList& args);

@@ -2,6 +2,7 @@
 // bytes, a file cut inside a record is refused whole; shares, money and the split of a win; the
 // printout texts and the leaflet's file and command.
 #include "Bajty.h"
+#include "Spust_Cli.h"
 #include "bettors/Seznam_Sazejicich.h"
 #include "bettors/Vypisy_Seznamu.h"
 
@@ -136,6 +137,32 @@ private slots:
         Sazejici lomitko;
         lomitko.Jmeno = u"A/B"_qs;
         QCOMPARE(Vypisy_Seznamu::Soubor_Jednotliveho(lomitko, u"S_parta"_qs), u"A_B_S_parta.txt"_qs);
+    }
+
+    void Prikaz_Cli() {
+        QTemporaryDir slozka;
+        Stav_Seznamu stav;
+        QVERIFY(Pridej_Sazejiciho(stav.Seznam, u"Jan"_qs, 100, 0).Ok());
+        QVERIFY(Pridej_Sazejiciho(stav.Seznam, u"Eva"_qs, 300, 0).Ok());
+        stav.Seznam[0].Tah_Dne = u"29.11.2026"_qs;
+        stav.Seznam[0].Tyden = 48;
+        stav.Seznam[0].Provize = u"5"_qs;
+        const QString cesta = slozka.filePath(u"parta.szn"_qs);
+        QVERIFY(Uloz_Seznam(stav, cesta).Ok());
+        const Beh b = Spust({u"bettors"_qs, cesta, u"--vyhra"_qs, u"1000"_qs});
+        QCOMPARE(b.Kod, 0);
+        // (The runner leaves out the empty line before the sum.)
+        QCOMPARE(b.Radky, (QStringList{u"tah dne 29.11.2026"_qs, u"sazkovy tyden 48"_qs, u"provize 5"_qs, u"sance 0"_qs,
+                                       Radek_Seznamu(stav.Seznam[0]), Radek_Seznamu(stav.Seznam[1]),
+                                       u"Jan"_qs + QString(43, u' ') + u"250,00"_qs,
+                                       u"Eva"_qs + QString(43, u' ') + u"750,00"_qs,
+                                       u"   CELKEM                1 000,00 Kč"_qs}));
+        QCOMPARE(Spust({u"bettors"_qs, cesta}).Radky.size(), 6);
+        QCOMPARE(Spust({u"bettors"_qs, cesta, u"--vyhra"_qs, u"nan"_qs}).Kod, 2);
+        // Reading an empty list leaves it where it is.
+        Zapis_Souboru(cesta, {});
+        QCOMPARE(Spust({u"bettors"_qs, cesta}).Kod, 0);
+        QVERIFY(QFile::exists(cesta));
     }
 
     void Letak() {
