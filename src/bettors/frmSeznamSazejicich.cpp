@@ -37,6 +37,25 @@ QString Cele(double x) {
     return Vb::Format(x, u"### ###").trimmed();
 }
 
+// The list's line as the monospaced list shows it: each tab to the next stop of eight characters.
+QString Rozvin_Tabulatory(const QString& radek) {
+    QString vysledek;
+    for (const QChar c : radek) {
+        if (c == u'\t')
+            vysledek += QString(8 - vysledek.size() % 8, u' ');
+        else
+            vysledek += c;
+    }
+    return vysledek;
+}
+
+// A caption whose key letter moves to its box.
+QLabel* Popisek(const QString& klic, QWidget* pole) {
+    auto* popisek = new QLabel(Okno.Text(klic), pole->parentWidget());
+    popisek->setBuddy(pole);
+    return popisek;
+}
+
 // A name that can stand as a file name in the lists' folder.
 bool Platny_Nazev(const QString& nazev) {
     return !nazev.isEmpty() && !nazev.contains(u'/') && !nazev.contains(u'\\') && nazev != u"."_qs &&
@@ -73,22 +92,24 @@ frmSeznamSazejicich::frmSeznamSazejicich(frmMDITombi& ram, QWidget* parent)
     QFont pevne(u"DejaVu Sans Mono"_qs);
     pevne.setPointSizeF(List1->font().pointSizeF());
     List1->setFont(pevne);
-    List1->setMinimumWidth(QFontMetrics(pevne).horizontalAdvance(QString(66, u'0')));
+    List1->setMinimumWidth(QFontMetrics(pevne).horizontalAdvance(QString(64, u'0')) + 48); // the check box and the scroll bar
     txtJmeno->setMaxLength(Nejsirsi_Jmeno / 45);
-    for (QLineEdit* pole : {txtVklad, txtProvize, txtSazkovy_Tyden})
+    for (QLineEdit* pole : {txtVklad, txtProvize, txtSazkovy_Tyden}) {
         modNastaveni_Ovladani::Jen_Cislice(pole);
+        modNastaveni_Ovladani::Vybirej_Pri_Vstupu(pole);
+    }
     txtVklad->setMaxLength(5);
     txtProvize->setMaxLength(3);
     txtSazkovy_Tyden->setMaxLength(3);
 
     auto* vlevo = new QVBoxLayout;
     auto* hlava = new QFormLayout;
-    hlava->addRow(Okno.Text(u"Label_Text3"_qs), Text3);
+    hlava->addRow(Popisek(u"Label_Text3"_qs, Text3), Text3);
     auto* tah = new QHBoxLayout;
     tah->addWidget(txtTah_Dne);
-    tah->addWidget(new QLabel(Okno.Text(u"Label_Tyden"_qs), this));
+    tah->addWidget(Popisek(u"Label_Tyden"_qs, txtSazkovy_Tyden));
     tah->addWidget(txtSazkovy_Tyden);
-    hlava->addRow(Okno.Text(u"Label_Tah_Dne"_qs), tah);
+    hlava->addRow(Popisek(u"Label_Tah_Dne"_qs, txtTah_Dne), tah);
     vlevo->addLayout(hlava);
     vlevo->addWidget(Naplneni());
     vlevo->addWidget(List1, 1);
@@ -148,9 +169,9 @@ frmSeznamSazejicich::frmSeznamSazejicich(frmMDITombi& ram, QWidget* parent)
 QWidget* frmSeznamSazejicich::Naplneni() {
     auto* ramec = Okno.Pojmenuj(new QGroupBox(this), u"Frame_Naplneni"_qs);
     auto* mrizka = new QGridLayout(ramec);
-    mrizka->addWidget(new QLabel(Okno.Text(u"Label_Jmeno"_qs), ramec), 0, 0);
+    mrizka->addWidget(Popisek(u"Label_Jmeno"_qs, txtJmeno), 0, 0);
     mrizka->addWidget(txtJmeno, 0, 1, 1, 2);
-    mrizka->addWidget(new QLabel(Okno.Text(u"Label_Vklad"_qs), ramec), 1, 0);
+    mrizka->addWidget(Popisek(u"Label_Vklad"_qs, txtVklad), 1, 0);
     mrizka->addWidget(txtVklad, 1, 1);
     auto* tlacitka = new QHBoxLayout;
     for (QPushButton* t : {cmdDalsi_Sazejici, cmdOpravit, cmdSmazat})
@@ -184,7 +205,7 @@ void frmSeznamSazejicich::Vypis_Seznam() {
     std::erase_if(seznam, [](const Sazejici& s) { return s.Jmeno.isEmpty(); });
     List1->clear();
     for (const Sazejici& s : seznam) {
-        auto* radek = new QListWidgetItem(Radek_Seznamu(s), List1);
+        auto* radek = new QListWidgetItem(Rozvin_Tabulatory(Radek_Seznamu(s)), List1);
         radek->setFlags(radek->flags() | Qt::ItemIsUserCheckable);
         radek->setCheckState(Qt::Unchecked);
     }

@@ -18,6 +18,7 @@
 #include "app/frmSloupec_Tiketu.h"
 #include "app/frmTombi_uvod.h"
 #include "archive/frmVypisTahu.h"
+#include "bettors/frmSeznamSazejicich.h"
 #include "data/Chyby_A_Prehled.h"
 #include "data/Soubory.h"
 #include "generator/frmGeneruj.h"
@@ -216,6 +217,28 @@ int main(int argc, char** argv) {
                      emit generator->Vyber->picSloupec->Klik(n + 10 * kolo + 2, Qt::LeftButton, false);
                  generator->cmdOK->click();
              }
+             return prostredi.Okno.release();
+         }},
+        // The bettors' list: five bettors, a commission, the money, the printouts and the leaflet.
+        {u"frmSeznamSazejicich"_qs,
+         [](QWidget*) -> QWidget* {
+             static Prostredi prostredi(QDate(2026, 11, 28));
+             Uloz_Soubor(prostredi.Cesta(u"a.tip"_qs), Soubor_Tipu(24));
+             prostredi.Spust().resize(1000, 640);
+             prostredi.Data->Nastaveni.Cena_Jednoho_Tipu = 20;
+             prostredi.Otevri_Tipy(u"a.tip"_qs);
+             prostredi.Prikaz(u"mnuNovySeznam"_qs)->trigger();
+             auto* seznam = prostredi.Okno->Najdi_Okno<frmSeznamSazejicich>();
+             seznam->Text3->setText(u"Rodina"_qs);
+             seznam->txtProvize->setText(u"5"_qs);
+             for (const auto& [jmeno, vklad] : {std::pair{u"Jan Novák"_qs, u"200"_qs}, std::pair{u"Eva Dvořáková"_qs, u"300"_qs},
+                                                std::pair{u"Petr Svoboda"_qs, u"100"_qs},
+                                                std::pair{u"Marie Černá"_qs, u"250"_qs}, std::pair{u"Ota"_qs, u"150"_qs}}) {
+                 seznam->txtJmeno->setText(jmeno);
+                 seznam->txtVklad->setText(vklad);
+                 seznam->cmdDalsi_Sazejici->click();
+             }
+             seznam->List1->item(1)->setCheckState(Qt::Checked);
              return prostredi.Okno.release();
          }},
         // Printing onto the paper tickets: the choice boxes, the shift and the range of tickets.

@@ -72,7 +72,8 @@ private slots:
         QTest::addColumn<QString>("prikaz");
         for (const char* prikaz :
              {"mnuOProgramu", "mnuHelp", "mnuPrehled", "mnuGenerujTipy", "frmVypisTipuVsech", "mnuVyhodnoceniTipu",
-              "mnuVlastniTipy", "mnuVypisTahu", "mnuRozsirSouborTahy", "mnuAnalyza", "mnuVypisAnalyz", "mnuTiskTiketu"})
+              "mnuVlastniTipy", "mnuVypisTahu", "mnuRozsirSouborTahy", "mnuAnalyza", "mnuVypisAnalyz", "mnuTiskTiketu",
+              "mnuNovySeznam"})
             QTest::newRow(prikaz) << QString::fromLatin1(prikaz);
     }
 
