@@ -1,20 +1,24 @@
 // The bettors' window driven by its controls: a new list filled, repaired and thinned, each change
 // written to its .szn at once, the money of the stakes, OK leading to the generator with the count
-// of tips; a tip file brings its list, whose win is split in the tip list; the printouts to files
-// and the leaflet through the print command.
+// of tips; a tip file brings its list, whose win is split in the tip list and printed as the
+// payouts list, and whose pairing goes to the overview; the printouts to files and the leaflet
+// through the print command.
 #include "Bajty.h"
 #include "Prostredi_Okna.h"
 #include "bettors/frmSeznamSazejicich.h"
 #include "bettors/frmSeznamSazejicich_Tisk.h"
 #include "data/Soubor_Tipu.h"
 #include "generator/frmGeneruj.h"
+#include "tips/frmVypisTipu.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QTest>
 #include <QTimer>
 
@@ -121,6 +125,21 @@ private slots:
         const auto* podily = prostredi.Prvek<QListWidget>(u"lstSazejiciVypis"_qs);
         QCOMPARE(podily->count(), 4);
         QVERIFY(podily->item(1)->text().startsWith(u"Eva "_qs) && podily->item(1)->text().endsWith(u"750,00"_qs));
+        // The payouts list names them with their shares.
+        prostredi.Dialogy.Tiskarny.enqueue(true);
+        prostredi.Dialogy.Pdf = prostredi.Cesta(u"listina.pdf"_qs);
+        prostredi.Prvek<QPushButton>(u"Command1"_qs)->click();
+        QProcess pdf;
+        pdf.start(u"pdftotext"_qs, {u"-layout"_qs, prostredi.Dialogy.Pdf, u"-"_qs});
+        QVERIFY(pdf.waitForFinished(30000));
+        const QString listina = QString::fromUtf8(pdf.readAllStandardOutput());
+        QVERIFY2(listina.contains(u"Výherní listina ze dne 21.11.26"_qs) && listina.contains(u"750,-"_qs), qPrintable(listina));
+
+        // Saving the tips with the list adds the pair to the overview.
+        auto* vypis = prostredi.Okno->Najdi_Okno<frmVypisTipu>();
+        vypis->txtSoubor_Tipu->setText(u"b"_qs);
+        vypis->cmdUlozTipy->click();
+        QVERIFY(Obsah_Souboru(slozka + u"/_Prehled.txt"_qs).contains("parta.szn\t\tb.tip\t\t\t21.11.2026"));
 
         // The list window, modal from "Výpis & Tisk", writes its files and sends the leaflet.
         QStringList spusteno;
@@ -131,13 +150,18 @@ private slots:
         bool hotovo = false;
         QTimer::singleShot(0, this, [&] {
             auto* okno = prostredi.Okno->findChild<frmSeznamSazejicich*>();
+            // A failed check must not leave the modal window waiting.
+            const auto zavri = qScopeGuard([okno] {
+                if (okno != nullptr)
+                    okno->close();
+            });
             QVERIFY(okno != nullptr && okno->isModal());
             okno->Tisk->cmdDoSouboru->click();
             QVERIFY(Obsah_Souboru(slozka + u"/_!_seznam.txt"_qs).startsWith(Vb::Do_1250(u"Seznam sázejících pro tah dne   22.11.2026\r\n"_qs)));
             okno->Tisk->Option1[1]->setChecked(true);
             okno->List1->item(1)->setCheckState(Qt::Checked);
             okno->Tisk->cmdDoSouboru->click();
-            QVERIFY(Obsah_Souboru(slozka + u"/Eva_a.txt"_qs).contains("1   2   3   4   5   6   \t"));
+            QVERIFY(Obsah_Souboru(slozka + u"/Eva_b.txt"_qs).contains("1   2   3   4   5   6   \t"));
             okno->Tisk->optTiskarna[5]->setChecked(true);
             okno->Tisk->cmdTskLetaku->click();
             QCOMPARE(prostredi.Oznameni().last(), u"Tiskový soubor L_HP4.PRN chybí nebo zrušen tisk !"_qs);
@@ -148,7 +172,6 @@ private slots:
             QCOMPARE(spusteno.mid(0, 1), QStringList{u"lp"_qs});
             QVERIFY(spusteno.mid(spusteno.size() - 4, 3) == (QStringList{u"-o"_qs, u"raw"_qs, u"--"_qs}));
             QCOMPARE(Obsah_Souboru(spusteno.last()), QByteArray("\x1b" "E leták"));
-            okno->cmdClose->click();
             hotovo = true;
         });
         prostredi.Prikaz(u"mnuVypisSeznamu"_qs)->trigger();
