@@ -500,9 +500,7 @@ void frmAnalyzaTahu::cmdVymaz_Click() {
 }
 
 void frmAnalyzaTahu::cmdTisk_Click() {
-    if (!Sezeni.Dialog->Vybrat_Tiskarnu())
-        return;
-    const std::unique_ptr<frmTiskarna> otevrena = frmTiskarna::Otevri(Sezeni.Dialog->Tiskarna(), Sezeni.Sluzby);
+    const std::unique_ptr<frmTiskarna> otevrena = frmTiskarna::Po_Dialogu(*Sezeni.Dialog, Sezeni.Sluzby);
     if (!otevrena)
         return;
     frmTiskarna& tisk = *otevrena;

@@ -1,6 +1,7 @@
 #include "app/frmTiskarna.h"
 
 #include "app/Sluzby_Oken.h"
+#include "core/Dialogy.h"
 
 #include <QFontMetricsF>
 #include <QPrinter>
@@ -19,6 +20,12 @@ std::unique_ptr<frmTiskarna> frmTiskarna::Otevri(QPrinter& tiskarna, Sluzby_Oken
     if (sluzby != nullptr)
         sluzby->Zprava(QStringLiteral("Není zapnuta tiskárna !"));
     return nullptr;
+}
+
+std::unique_ptr<frmTiskarna> frmTiskarna::Po_Dialogu(Dialogy& dialogy, Sluzby_Oken* sluzby) {
+    if (!dialogy.Vybrat_Tiskarnu())
+        return nullptr;
+    return Otevri(dialogy.Tiskarna(), sluzby);
 }
 
 frmTiskarna::~frmTiskarna() {

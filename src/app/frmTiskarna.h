@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class Dialogy;
 class QPrinter;
 class Sluzby_Oken;
 
@@ -23,6 +24,8 @@ public:
     // A document on the printer, or none when the printer does not take it: then the notice
     // "Není zapnuta tiskárna !" is shown.
     static std::unique_ptr<frmTiskarna> Otevri(QPrinter& tiskarna, Sluzby_Oken* sluzby);
+    // The printer dialog first: nothing when it is cancelled, otherwise as Otevri on its printer.
+    static std::unique_ptr<frmTiskarna> Po_Dialogu(Dialogy& dialogy, Sluzby_Oken* sluzby);
     void Pismo(const QString& jmeno);
     void Velikost(double body);
     // Text at the current place; the line goes on.

@@ -91,9 +91,7 @@ void frmSeznamSazejicich_Tisk::cmdTisk_Click() {
         Sezeni.Sluzby->Zprava(u"Označ něco v seznamu ... "_qs);
         return;
     }
-    if (!Sezeni.Dialog->Vybrat_Tiskarnu())
-        return;
-    const std::unique_ptr<frmTiskarna> otevrena = frmTiskarna::Otevri(Sezeni.Dialog->Tiskarna(), Sezeni.Sluzby);
+    const std::unique_ptr<frmTiskarna> otevrena = frmTiskarna::Po_Dialogu(*Sezeni.Dialog, Sezeni.Sluzby);
     if (!otevrena)
         return;
     frmTiskarna& tisk = *otevrena;

@@ -421,9 +421,7 @@ void frmVypisTipu_Vyhry::Hledej_Poradi(int tah, int index) {
 // ---- Printouts ----
 
 void frmVypisTipu_Vyhry::Tiskni_Vyhravajici_Tikety() {
-    if (!Sezeni.Dialog->Vybrat_Tiskarnu())
-        return;
-    const std::unique_ptr<frmTiskarna> otevrena = frmTiskarna::Otevri(Sezeni.Dialog->Tiskarna(), Sezeni.Sluzby);
+    const std::unique_ptr<frmTiskarna> otevrena = frmTiskarna::Po_Dialogu(*Sezeni.Dialog, Sezeni.Sluzby);
     if (!otevrena)
         return;
     frmTiskarna& tisk = *otevrena;
