@@ -26,6 +26,7 @@
 #include "generator/frmGeneruj.h"
 #include "bettors/frmSeznamSazejicich.h"
 #include "printing/frmTiskTiketu.h"
+#include "settings/frmNastaveniProgramu.h"
 #include "tips/frmVypisTipu.h"
 #include "tips/frmVypisTipuVsech.h"
 
@@ -109,6 +110,7 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
     frmGeneruj::Pripoj_Prikazy(*this);
     frmTiskTiketu::Pripoj_Prikazy(*this);
     frmSeznamSazejicich::Pripoj_Prikazy(*this);
+    frmNastaveniProgramu::Pripoj_Prikazy(*this);
     frmAnalyzaTahu::Pripoj_Prikazy(*this);
     frmVypisTahu::Pripoj_Prikazy(*this);
     Timer2 = new QTimer(this);
@@ -232,7 +234,6 @@ bool frmMDITombi::Je_Nehotovy(const QAction* prikaz) const {
     // out of this list once its window connects it.
     const QAction* const nehotove[] = {
         mnuDownload,
-        mnuKonfigurace,
         mnuWebTombiNovaVer,
     };
     return std::find(std::begin(nehotove), std::end(nehotove), prikaz) != std::end(nehotove);

@@ -110,7 +110,7 @@ private slots:
                 QVERIFY2(!prikaz->text().isEmpty(), qPrintable(prikaz->objectName()));
         QCOMPARE(sobota.Prvek(u"lblAktivniPoradi"_qs)->toolTip(),
                  u" Pořadové číslo vybraného tahu nebo tipu celkem / v tiketu. "_qs);
-        QVERIFY(!sobota.Prikaz(u"mnuKonfigurace"_qs)->isEnabled());
+        QVERIFY(!sobota.Prikaz(u"mnuWebTombiNovaVer"_qs)->isEnabled());
         QVERIFY(sobota.Prikaz(u"mnuOtevriSouborTipu"_qs)->isEnabled());
     }
 
