@@ -44,13 +44,13 @@ constexpr double Vychozi_Sirka = 5200;
 // The room under the text for the row of counts.
 constexpr double Mezera_Pod_Textem = 30;
 
-// No file to show. While the reports are not written to it, which is the default and can be
-// changed only in the settings window to come, the user is told where the reports are meanwhile.
+// No file to show. While the reports are not written to it, which is the default, the user is told
+// where to switch it on and where the reports are meanwhile.
 QString Bez_Souboru(const Nastaveni_Zaznam& n) {
     QString text = u"Není soubor \"Analyza.txt\""_qs;
     if (n.Zapis_Analyzy == 0)
-        text += u". Zápis analýz do něj je ve výchozím nastavení vypnutý a zapne ho okno \"Nastavení\" v další "
-                u"verzi; výsledky analýz zatím ukazuje okno Tahy - Analýza (Výpis, Graf, Tisk)."_qs;
+        text += u". Zápis analýz do něj je vypnutý; zapne ho Program - Nastavení, stránka Automatická analýza "
+                u"(Exportovat do souboru). Výsledky analýz ukazuje i okno Tahy - Analýza (Výpis, Graf, Tisk)."_qs;
     return text;
 }
 

@@ -283,11 +283,10 @@ Vysledek pTikety::Analyzuj_Cislo(int cislo, int pocet_tydnu, const std::vector<T
                                  const std::vector<Tah>& tahy_2, QString& posledni_1, QString& posledni_2,
                                  QString& pocet_1, QString& pocet_2) {
     if (pocet_tydnu == 0)
-        // The weeks come from the settings window, which is still to come: the user hears where
-        // the same facts are meanwhile.
+        // The weeks come from the settings window: the user hears where to set them.
         return Vysledek::Chyba(
-            u"Pro analýzu v tazích je třeba počet týdnů z okna \"Nastavení - TiP\", které přijde v další verzi. "
-            u"Kdy a kolikrát čísla padla, zatím ukáže okno Tahy - Analýza (Interval čísla, Četnost tažených čísel)."_qs);
+            u"Pro analýzu v tazích, nastavte počet týdnů v \"Nastavení - TiP\" (Program - Nastavení, stránka "
+            u"Analýza tahů, Počet týdnů analýzy tipů)."_qs);
     posledni_1.clear();
     posledni_2.clear();
     pocet_1.clear();

@@ -131,9 +131,8 @@ int main(int argc, char** argv) {
          }},
         {u"frmNeniProcedura_dlouha"_qs,
          [](QWidget* h) -> QWidget* {
-             return new frmNeniProcedura(u"Pro analýzu v tazích je třeba počet týdnů z okna \"Nastavení - TiP\", "
-                                         u"které přijde v další verzi. Kdy a kolikrát čísla padla, zatím ukáže okno "
-                                         u"Tahy - Analýza (Interval čísla, Četnost tažených čísel)."_qs,
+             return new frmNeniProcedura(u"Pro analýzu v tazích, nastavte počet týdnů v \"Nastavení - TiP\" "
+                                         u"(Program - Nastavení, stránka Analýza tahů, Počet týdnů analýzy tipů)."_qs,
                                          h);
          }},
         {u"Start_Bez_Archivu"_qs, [](QWidget*) { return Start_Bez_Archivu(); }},

@@ -155,8 +155,8 @@ private slots:
         n.Auto_Analyza = {};
         okno->Analyza_Automaticky();
         QCOMPARE(prostredi.Oznameni().last(),
-                 u"Automatická analýza nemá zvolenou žádnou analýzu. Volba přijde s oknem \"Nastavení\" v další verzi; "
-                 u"zatím zvolte typ analýzy v tomto okně a stiskněte \"Budiž\"."_qs);
+                 u"Automatická analýza nemá zvolenou žádnou analýzu. Zvolte je v Program - Nastavení, stránka "
+                 u"Automatická analýza; jednu analýzu spustí typ zvolený v tomto okně a \"Budiž\"."_qs);
     }
 };
 

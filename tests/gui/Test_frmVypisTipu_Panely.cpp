@@ -137,8 +137,8 @@ private slots:
         QCOMPARE(
             prostredi.Oznameni(),
             QStringList{
-                u"Pro analýzu v tazích je třeba počet týdnů z okna \"Nastavení - TiP\", které přijde v další verzi. "
-                u"Kdy a kolikrát čísla padla, zatím ukáže okno Tahy - Analýza (Interval čísla, Četnost tažených čísel)."_qs});
+                u"Pro analýzu v tazích, nastavte počet týdnů v \"Nastavení - TiP\" (Program - Nastavení, stránka "
+                u"Analýza tahů, Počet týdnů analýzy tipů)."_qs});
     }
 };
 

@@ -185,8 +185,8 @@ private slots:
         QString posledni_1 = u"x"_qs, posledni_2, pocet_1, pocet_2;
         QCOMPARE(
             p.Analyzuj_Cislo(7, 0, tahy_1, tahy_2, posledni_1, posledni_2, pocet_1, pocet_2).Zprava,
-            u"Pro analýzu v tazích je třeba počet týdnů z okna \"Nastavení - TiP\", které přijde v další verzi. "
-            u"Kdy a kolikrát čísla padla, zatím ukáže okno Tahy - Analýza (Interval čísla, Četnost tažených čísel)."_qs);
+            u"Pro analýzu v tazích, nastavte počet týdnů v \"Nastavení - TiP\" (Program - Nastavení, stránka "
+            u"Analýza tahů, Počet týdnů analýzy tipů)."_qs);
         QCOMPARE(posledni_1, u"x"_qs);
 
         // Three weeks read four draws: indexes 5 down to 2.
