@@ -44,6 +44,7 @@ struct Relace {
     bool Formular_Otevren_Tahy = false;
     bool Vypis_Tipu_Vsech_Otevren = false;
     bool Vypis_Cisel = false; // the analysis viewer frmVypisAnalyz is open
+    bool Zamceno = false;     // the password at start was not given: the work stays locked
 
     // The draw list (frmVypisTahu) and those who use it.
     bool Tahy_Pro_Analyzu = false; // the analysis window opened the list: a click sets its range

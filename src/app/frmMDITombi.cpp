@@ -26,6 +26,7 @@
 #include "generator/frmGeneruj.h"
 #include "bettors/frmSeznamSazejicich.h"
 #include "printing/frmTiskTiketu.h"
+#include "settings/frmHeslo.h"
 #include "settings/frmNastaveniProgramu.h"
 #include "tips/frmVypisTipu.h"
 #include "tips/frmVypisTipuVsech.h"
@@ -302,6 +303,7 @@ void frmMDITombi::Start() {
 
     relace.Archiv.Pocet_Let = 0;
     Prepni_Den(modTombi::Den_Podle_Tydne(relace.Den_V_Tydnu));
+    frmHeslo::Over_Pri_Startu(*this);
 }
 
 void frmMDITombi::Umisti_Okno() {

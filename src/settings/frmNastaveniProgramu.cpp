@@ -64,6 +64,11 @@ frmNastaveniProgramu::frmNastaveniProgramu(frmMDITombi& ram, QWidget* parent)
         Stranky->addWidget(posuv);
     }
     List1->setMaximumWidth(List1->sizeHintForColumn(0) + 2 * List1->frameWidth() + 8);
+    // Room for the widest and, up to what a laptop's screen leaves, the tallest page.
+    QSize nejvetsi;
+    for (const Stranka_Nastaveni* stranka : Seznam_Stranek)
+        nejvetsi = nejvetsi.expandedTo(stranka->sizeHint());
+    Stranky->setMinimumSize(nejvetsi.width() + 24, std::min(nejvetsi.height(), 500));
     QFont nadpis = lblNadpis->font();
     nadpis.setBold(true);
     nadpis.setPointSizeF(nadpis.pointSizeF() * 1.2);

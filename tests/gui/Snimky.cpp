@@ -25,6 +25,9 @@
 #include "generator/frmGeneruj_Omezeni.h"
 #include "generator/frmGeneruj_Vyber.h"
 #include "printing/frmTiskTiketu.h"
+#include "settings/Nastaveni_Programu.h"
+#include "settings/frmHeslo.h"
+#include "settings/frmNastaveniProgramu.h"
 #include "tips/frmVypisTipu.h"
 #include "tips/frmVypisTipuVsech.h"
 #include "tips/frmVypisTipu_Vyhodnoceni.h"
@@ -124,7 +127,7 @@ int main(int argc, char** argv) {
     hlavni.setGeometry(40, 30, 720, 520);
     hlavni.show();
 
-    const std::vector<Snimek> snimky{
+    std::vector<Snimek> snimky{
         {u"frmNeniProcedura"_qs,
          [](QWidget* h) -> QWidget* {
              return new frmNeniProcedura(u"Chybí soubor tahů  \"SpN_tahy.sez\"  v aktuálním adresáři."_qs, h);
@@ -375,6 +378,26 @@ int main(int argc, char** argv) {
              return prostredi.Okno.release();
          }},
     };
+    // Every page of the settings, each in its window; and the password asked for at start.
+    for (int i = 0; i < 10; ++i)
+        snimky.push_back({u"frmNastaveniProgramu_%1"_qs.arg(i), [i](QWidget*) -> QWidget* {
+                              // A frame a page; each lives on with its picture's window.
+                              auto* prostredi = new Prostredi(QDate(2026, 11, 28));
+                              prostredi->Spust().resize(1000, 700);
+                              prostredi->Prikaz(u"mnuKonfigurace"_qs)->trigger();
+                              prostredi->Okno->Najdi_Okno<frmNastaveniProgramu>()->Ukaz_Stranku(i);
+                              return prostredi->Okno.release();
+                          }});
+    snimky.push_back({u"frmHeslo"_qs, [](QWidget*) -> QWidget* {
+                          static Prostredi prostredi(QDate(2026, 11, 28));
+                          prostredi.Registr->setValue(QString::fromUtf16(Klic_Pws),
+                                                      Zasifruj_Pws(Nastaveni_Programu::Zasifruj_Heslo(u"tajne1"_qs)));
+                          prostredi.Spust().resize(900, 600);
+                          auto* heslo = prostredi.Okno->Najdi_Okno<frmHeslo>();
+                          heslo->txtHeslo_Vstup->setText(u"abc"_qs);
+                          heslo->Command1->click();
+                          return prostredi.Okno.release();
+                      }});
 
     QTemporaryDir docasna;
     QString slozka = qEnvironmentVariable("TOMBI_SNIMKY");

@@ -73,7 +73,7 @@ private slots:
         for (const char* prikaz :
              {"mnuOProgramu", "mnuHelp", "mnuPrehled", "mnuGenerujTipy", "frmVypisTipuVsech", "mnuVyhodnoceniTipu",
               "mnuVlastniTipy", "mnuVypisTahu", "mnuRozsirSouborTahy", "mnuAnalyza", "mnuVypisAnalyz", "mnuTiskTiketu",
-              "mnuNovySeznam"})
+              "mnuNovySeznam", "mnuKonfigurace"})
             QTest::newRow(prikaz) << QString::fromLatin1(prikaz);
     }
 
