@@ -91,8 +91,10 @@ Stranka_Adresare::Stranka_Adresare(Nastaveni_Zaznam& kopie, Relace& sezeni, QWid
     rozlozeni->addWidget(prohlizec);
     rozlozeni->addWidget(historie);
 
-    connect(txtCesta, &QLineEdit::textEdited, this,
-            [this](const QString& text) { Adresare[std::size_t(Zvoleny)] = text.trimmed(); });
+    connect(txtCesta, &QLineEdit::textEdited, this, [this](const QString& text) {
+        if (Zvoleny != 0)
+            Adresare[std::size_t(Zvoleny)] = QDir::fromNativeSeparators(text.trimmed());
+    });
     connect(Dir1, &QTreeView::clicked, this,
             [this](const QModelIndex& index) { Slozka_Zvolena(Model->filePath(index)); });
     connect(cmdZaloz_Adr, &QPushButton::clicked, this, &Stranka_Adresare::cmdZaloz_Adr_Click);
@@ -111,6 +113,13 @@ Stranka_Adresare::Stranka_Adresare(Nastaveni_Zaznam& kopie, Relace& sezeni, QWid
 
 void Stranka_Adresare::Zvol_Adresar(int index) {
     Zvoleny = index;
+    // The settings are read at start from the program's folder and the data go with them: a data
+    // folder elsewhere would be written to and never read back, so it is shown, not changed.
+    const bool pevny = index == 0;
+    txtCesta->setReadOnly(pevny);
+    Dir1->setEnabled(!pevny);
+    cmdZaloz_Adr->setEnabled(!pevny);
+    txtCesta->setToolTip(Okno.Text(pevny ? u"txtCesta.Data.ToolTipText"_qs : u"txtCesta.ToolTipText"_qs));
     txtCesta->setText(QDir::toNativeSeparators(Adresare[std::size_t(index)]));
     const QModelIndex slozka = Model->index(Adresare[std::size_t(index)]);
     if (slozka.isValid()) {
@@ -120,6 +129,8 @@ void Stranka_Adresare::Zvol_Adresar(int index) {
 }
 
 void Stranka_Adresare::Slozka_Zvolena(const QString& cesta) {
+    if (Zvoleny == 0)
+        return;
     Adresare[std::size_t(Zvoleny)] = cesta;
     txtCesta->setText(QDir::toNativeSeparators(cesta));
 }

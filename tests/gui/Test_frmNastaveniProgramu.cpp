@@ -23,6 +23,7 @@
 namespace {
 
 frmNastaveniProgramu* Otevri(Prostredi& prostredi) {
+    QCoreApplication::processEvents(); // a window closed before is gone
     prostredi.Prikaz(u"mnuKonfigurace"_qs)->trigger();
     return prostredi.Okno->Najdi_Okno<frmNastaveniProgramu>();
 }
@@ -52,6 +53,7 @@ private slots:
         // Edits on every page, then Zrušit: nothing moves.
         const auto zmen = [&](frmNastaveniProgramu* okno) {
             auto* adresare = Stranka<Stranka_Adresare>(okno, 0);
+            QVERIFY(adresare->txtCesta->isReadOnly()); // the data stay beside the program
             adresare->optCesta[1]->setChecked(true);
             Pis(adresare->txtCesta, prostredi.Cesta(u"tipy"_qs));
             adresare->cmdZaloz_Adr->click();
