@@ -29,6 +29,18 @@ constexpr int Pocet_Stranek = 10;
 
 Stranka_Nastaveni::Stranka_Nastaveni(Nastaveni_Zaznam& kopie, QWidget* parent) : QWidget(parent), Kopie(kopie) {}
 
+const modNastaveni_Ovladani::Texty_Okna& Stranka_Nastaveni::Okno() {
+    return ::Okno;
+}
+
+QLineEdit* Stranka_Nastaveni::Cislice(QLineEdit* pole, int znaku) {
+    modNastaveni_Ovladani::Jen_Cislice(pole);
+    modNastaveni_Ovladani::Vybirej_Pri_Vstupu(pole);
+    pole->setMaxLength(znaku);
+    pole->setMaximumWidth(pole->fontMetrics().horizontalAdvance(QString(znaku + 2, u'0')) + 12);
+    return pole;
+}
+
 int Stranka_Nastaveni::Cislo(const QLineEdit* pole, int prazdna) {
     return pole->text().trimmed().isEmpty() ? prazdna : modNastaveni_Ovladani::Cele_Cislo(pole);
 }

@@ -3,6 +3,7 @@
 // its heading on the right. The pages work on a copy of the settings record; only OK puts the copy
 // in force and writes it, Zrušit leaves everything as it was.
 
+#include "app/frmOvladani.h"
 #include "data/Nastaveni.h"
 
 #include <QWidget>
@@ -24,6 +25,12 @@ class Stranka_Nastaveni : public QWidget {
 public:
     Stranka_Nastaveni(Nastaveni_Zaznam& kopie, QWidget* parent);
     virtual void Uloz() = 0;
+
+    // The pages' controls take their names and captions from the settings window's texts.
+    static const modNastaveni_Ovladani::Texty_Okna& Okno();
+    template <class T> static T* Prvek(T* prvek, const QString& jmeno) { return Okno().Pojmenuj(prvek, jmeno); }
+    // A box of digits, at most `znaku` of them, its text selected on entry.
+    static QLineEdit* Cislice(QLineEdit* pole, int znaku);
 
 protected:
     // The value of a box of digits; `prazdna` for an empty box.

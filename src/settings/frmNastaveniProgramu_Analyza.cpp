@@ -17,20 +17,10 @@ using modNastaveni_Ovladani::Indexem;
 
 namespace {
 
-const modNastaveni_Ovladani::Texty_Okna Okno{u"frmNastaveniProgramu"_qs};
 constexpr int Pocet_Analyz = 10;
 
-template <class T> T* Prvek(T* prvek, const QString& jmeno) {
-    return Okno.Pojmenuj(prvek, jmeno);
-}
-
 QLineEdit* Pocet(const QString& text, const QString& jmeno, QWidget* rodic) {
-    auto* pole = Prvek(new QLineEdit(text, rodic), jmeno);
-    modNastaveni_Ovladani::Jen_Cislice(pole);
-    modNastaveni_Ovladani::Vybirej_Pri_Vstupu(pole);
-    pole->setMaxLength(4);
-    pole->setMaximumWidth(pole->fontMetrics().horizontalAdvance(u"000000"_qs) + 12);
-    return pole;
+    return Stranka_Nastaveni::Cislice(Stranka_Nastaveni::Prvek(new QLineEdit(text, rodic), jmeno), 4);
 }
 
 } // namespace
@@ -47,7 +37,7 @@ Stranka_Analyza_Tahu::Stranka_Analyza_Tahu(Nastaveni_Zaznam& kopie, QWidget* par
     auto* formular = new QFormLayout;
     for (QLineEdit* pole : {Odecist_Tahy, Od_Do_1Tah_Str, Od_Do_2Tah_Str, Od_Do_1Tah_Ned, Od_Do_2Tah_Ned,
                             txtPocet_Tahu_Analyzovat})
-        formular->addRow(Okno.Text(u"Label_"_qs + pole->objectName()), pole);
+        formular->addRow(Okno().Text(u"Label_"_qs + pole->objectName()), pole);
     auto* rozlozeni = new QVBoxLayout(this);
     rozlozeni->addLayout(formular);
     rozlozeni->addWidget(chkAut_Prep_Hodnot);
@@ -93,7 +83,7 @@ Stranka_Auto_Analyza::Stranka_Auto_Analyza(Nastaveni_Zaznam& kopie, QWidget* par
 
     lstTyp_Analyzy->setSelectionMode(QAbstractItemView::MultiSelection);
     for (int i = 0; i < Pocet_Analyz; ++i) {
-        lstTyp_Analyzy->addItem(Okno.Text(Indexem(u"lstTyp_Analyzy"_qs, i)));
+        lstTyp_Analyzy->addItem(Okno().Text(Indexem(u"lstTyp_Analyzy"_qs, i)));
         lstTyp_Analyzy->item(i)->setSelected(Vb::Je_Pravda(kopie.Auto_Analyza[std::size_t(i)]));
     }
     auto* tlacitka = new QHBoxLayout;

@@ -20,20 +20,6 @@ using modNastaveni_Ovladani::Indexem;
 
 namespace {
 
-const modNastaveni_Ovladani::Texty_Okna Okno{u"frmNastaveniProgramu"_qs};
-
-template <class T> T* Prvek(T* prvek, const QString& jmeno) {
-    return Okno.Pojmenuj(prvek, jmeno);
-}
-
-QLineEdit* Cislice(QLineEdit* pole, int znaku) {
-    modNastaveni_Ovladani::Jen_Cislice(pole);
-    modNastaveni_Ovladani::Vybirej_Pri_Vstupu(pole);
-    pole->setMaxLength(znaku);
-    pole->setMaximumWidth(pole->fontMetrics().horizontalAdvance(QString(znaku + 2, u'0')) + 12);
-    return pole;
-}
-
 QString Castka(double kc) {
     return Vb::Format(kc, u"### ### ###").trimmed();
 }
@@ -55,8 +41,8 @@ Stranka_Ceny::Stranka_Ceny(Nastaveni_Zaznam& kopie, Relace& sezeni, QWidget* par
     Ceny[2] = modTombi::Ceny_Dne_Tahu(sezeni, ::Den::Patek);
     chkZmena_Cisla_Tiketu->setChecked(kopie.Zmena_Cisla_Tiketu != 0);
     auto* formular = new QFormLayout;
-    formular->addRow(Okno.Text(u"Label_Cena_Jednoho_Tipu"_qs), txtCena_Jednoho_Tipu);
-    formular->addRow(Okno.Text(u"Label_Cena_Sance"_qs), txtCena_Sance);
+    formular->addRow(Okno().Text(u"Label_Cena_Jednoho_Tipu"_qs), txtCena_Jednoho_Tipu);
+    formular->addRow(Okno().Text(u"Label_Cena_Sance"_qs), txtCena_Sance);
     auto* vyhry = Prvek(new QGroupBox(this), u"Frame_Ceny"_qs);
     auto* mrizka = new QGridLayout(vyhry);
     auto* dny = new QHBoxLayout;
@@ -65,10 +51,10 @@ Stranka_Ceny::Stranka_Ceny(Nastaveni_Zaznam& kopie, Relace& sezeni, QWidget* par
         dny->addWidget(optTyden[i]);
     }
     mrizka->addLayout(dny, 0, 0, 1, 3);
-    mrizka->addWidget(new QLabel(Okno.Text(u"Label_Tah_1"_qs), vyhry), 1, 1);
-    mrizka->addWidget(new QLabel(Okno.Text(u"Label_Tah_2"_qs), vyhry), 1, 2);
+    mrizka->addWidget(new QLabel(Okno().Text(u"Label_Tah_1"_qs), vyhry), 1, 1);
+    mrizka->addWidget(new QLabel(Okno().Text(u"Label_Tah_2"_qs), vyhry), 1, 2);
     for (int poradi = 0; poradi < 5; ++poradi) {
-        mrizka->addWidget(new QLabel(Okno.Text(Indexem(u"lblPoradi"_qs, poradi)), vyhry), poradi + 2, 0);
+        mrizka->addWidget(new QLabel(Okno().Text(Indexem(u"lblPoradi"_qs, poradi)), vyhry), poradi + 2, 0);
         for (int tah = 0; tah < 2; ++tah) {
             const int i = tah * 5 + poradi;
             QLineEdit*& pole = txtCena[std::size_t(i)];
@@ -135,12 +121,12 @@ Stranka_Vypocty::Stranka_Vypocty(Nastaveni_Zaznam& kopie, const QLineEdit* cena_
         lblVysledek[i] = Prvek(new QLabel(this), Indexem(u"lblVysledek"_qs, int(i)));
         lblVysledek[i]->setTextInteractionFlags(Qt::TextSelectableByMouse);
     }
-    formular->addRow(Okno.Text(u"Label_Vstupy(0)"_qs), txtVstupy[0]);
+    formular->addRow(Okno().Text(u"Label_Vstupy(0)"_qs), txtVstupy[0]);
     for (int i = 0; i < 5; ++i)
-        formular->addRow(Okno.Text(Indexem(u"Label_Vysledek"_qs, i)), lblVysledek[std::size_t(i)]);
-    formular->addRow(Okno.Text(u"Label_Vstupy(1)"_qs), txtVstupy[1]);
-    formular->addRow(Okno.Text(u"Label_Vysledek(5)"_qs), lblVysledek[5]);
-    formular->addRow(Okno.Text(u"Label_Vysledek(6)"_qs), lblVysledek[6]);
+        formular->addRow(Okno().Text(Indexem(u"Label_Vysledek"_qs, i)), lblVysledek[std::size_t(i)]);
+    formular->addRow(Okno().Text(u"Label_Vstupy(1)"_qs), txtVstupy[1]);
+    formular->addRow(Okno().Text(u"Label_Vysledek(5)"_qs), lblVysledek[5]);
+    formular->addRow(Okno().Text(u"Label_Vysledek(6)"_qs), lblVysledek[6]);
 }
 
 void Stranka_Vypocty::Spocitej() {

@@ -26,19 +26,6 @@ using modNastaveni_Ovladani::Indexem;
 
 namespace {
 
-const modNastaveni_Ovladani::Texty_Okna Okno{u"frmNastaveniProgramu"_qs};
-
-template <class T> T* Prvek(T* prvek, const QString& jmeno) {
-    return Okno.Pojmenuj(prvek, jmeno);
-}
-
-QLineEdit* Cislice(QLineEdit* pole) {
-    modNastaveni_Ovladani::Jen_Cislice(pole);
-    modNastaveni_Ovladani::Vybirej_Pri_Vstupu(pole);
-    pole->setMaximumWidth(pole->fontMetrics().horizontalAdvance(u"000000"_qs) + 12);
-    return pole;
-}
-
 uint8_t Zaskrtnuto(const QCheckBox* box) {
     return box->isChecked() ? 1 : 0;
 }
@@ -119,7 +106,7 @@ void Stranka_Adresare::Zvol_Adresar(int index) {
     txtCesta->setReadOnly(pevny);
     Dir1->setEnabled(!pevny);
     cmdZaloz_Adr->setEnabled(!pevny);
-    txtCesta->setToolTip(Okno.Text(pevny ? u"txtCesta.Data.ToolTipText"_qs : u"txtCesta.ToolTipText"_qs));
+    txtCesta->setToolTip(Okno().Text(pevny ? u"txtCesta.Data.ToolTipText"_qs : u"txtCesta.ToolTipText"_qs));
     txtCesta->setText(QDir::toNativeSeparators(Adresare[std::size_t(index)]));
     const QModelIndex slozka = Model->index(Adresare[std::size_t(index)]);
     if (slozka.isValid()) {
@@ -171,21 +158,19 @@ void Stranka_Adresare::Uloz() {
 
 Stranka_Generovani::Stranka_Generovani(Nastaveni_Zaznam& kopie, QWidget* parent)
     : Stranka_Nastaveni(kopie, parent),
-      txtVych_Poc_Tipu(Cislice(Prvek(new QLineEdit(QString::number(kopie.Vychozi_Tipu), this), u"txtVych_Poc_Tipu"_qs))),
+      txtVych_Poc_Tipu(Cislice(Prvek(new QLineEdit(QString::number(kopie.Vychozi_Tipu), this), u"txtVych_Poc_Tipu"_qs), 4)),
       txtKlicVyberuCislo(
-          Cislice(Prvek(new QLineEdit(QString::number(kopie.Klic_Vyberu), this), u"txtKlicVyberuCislo"_qs))),
+          Cislice(Prvek(new QLineEdit(QString::number(kopie.Klic_Vyberu), this), u"txtKlicVyberuCislo"_qs), 1)),
       chkAutomatickeOpravy(Prvek(new QCheckBox(this), u"chkAutomatickeOpravy"_qs)),
       txtPocet_Pruchodu(
-          Cislice(Prvek(new QLineEdit(QString::number(kopie.Pocet_Pruchodu), this), u"txtPocet_Pruchodu"_qs))),
+          Cislice(Prvek(new QLineEdit(QString::number(kopie.Pocet_Pruchodu), this), u"txtPocet_Pruchodu"_qs), 5)),
       txtMax_Ve_Sloupci(Prvek(new QLineEdit(kopie.Max_Ve_Sloupci, this), u"txtMax_Ve_Sloupci"_qs)),
       txtCislo_V_Tipu(Prvek(new QLineEdit(kopie.Cislo_V_Tipu, this), u"txtCislo_V_Tipu"_qs)) {
-    txtKlicVyberuCislo->setMaxLength(1);
-    txtVych_Poc_Tipu->setMaxLength(4);
     chkAutomatickeOpravy->setChecked(kopie.Auto_Oprava != 0);
     auto* formular = new QFormLayout;
-    formular->addRow(Okno.Text(u"Label_Vych_Poc_Tipu"_qs), txtVych_Poc_Tipu);
-    formular->addRow(Okno.Text(u"Label_KlicVyberu"_qs), txtKlicVyberuCislo);
-    formular->addRow(Okno.Text(u"Label_Pocet_Pruchodu"_qs), txtPocet_Pruchodu);
+    formular->addRow(Okno().Text(u"Label_Vych_Poc_Tipu"_qs), txtVych_Poc_Tipu);
+    formular->addRow(Okno().Text(u"Label_KlicVyberu"_qs), txtKlicVyberuCislo);
+    formular->addRow(Okno().Text(u"Label_Pocet_Pruchodu"_qs), txtPocet_Pruchodu);
     formular->addRow(chkAutomatickeOpravy);
     auto* opakovat = Prvek(new QGroupBox(this), u"Frame_Opakovat"_qs);
     auto* volby = new QHBoxLayout(opakovat);
@@ -202,8 +187,8 @@ Stranka_Generovani::Stranka_Generovani(Nastaveni_Zaznam& kopie, QWidget* parent)
         radek->addWidget(chkVyloucit_Sud_Lich[i]);
     }
     auto* vypis = new QFormLayout;
-    vypis->addRow(Okno.Text(u"Label_Max_Ve_Sloupci"_qs), txtMax_Ve_Sloupci);
-    vypis->addRow(Okno.Text(u"Label_Cislo_V_Tipu"_qs), txtCislo_V_Tipu);
+    vypis->addRow(Okno().Text(u"Label_Max_Ve_Sloupci"_qs), txtMax_Ve_Sloupci);
+    vypis->addRow(Okno().Text(u"Label_Cislo_V_Tipu"_qs), txtCislo_V_Tipu);
     auto* rozlozeni = new QVBoxLayout(this);
     rozlozeni->addLayout(formular);
     rozlozeni->addWidget(opakovat);
@@ -235,13 +220,13 @@ Stranka_Heslo::Stranka_Heslo(Nastaveni_Zaznam& kopie, QWidget* parent)
     for (std::size_t i = 0; i < txtHeslo.size(); ++i) {
         txtHeslo[i] = Prvek(new QLineEdit(this), Indexem(u"txtHeslo"_qs, int(i)));
         txtHeslo[i]->setEchoMode(QLineEdit::Password);
-        formular->addRow(Okno.Text(Indexem(u"Label_Heslo"_qs, int(i))), txtHeslo[i]);
+        formular->addRow(Okno().Text(Indexem(u"Label_Heslo"_qs, int(i))), txtHeslo[i]);
     }
     auto* tlacitka = new QHBoxLayout;
     tlacitka->addWidget(cmdHeslo);
     tlacitka->addWidget(cmdZrusit_Heslo);
     tlacitka->addStretch();
-    auto* poznamka = new QLabel(Okno.Text(u"Label_Sifra"_qs), this);
+    auto* poznamka = new QLabel(Okno().Text(u"Label_Sifra"_qs), this);
     poznamka->setWordWrap(true);
     auto* rozlozeni = new QVBoxLayout(this);
     rozlozeni->addLayout(formular);
@@ -280,13 +265,13 @@ Stranka_Download::Stranka_Download(Nastaveni_Zaznam& kopie, Relace& sezeni, QWid
     chkSmazatAktSoubor->setChecked(kopie.Smazat_Dbf != 0);
     chkZalohaDatTahu->setChecked(kopie.Zaloha_Tahu == u"1");
     auto* formular = new QFormLayout(this);
-    formular->addRow(Okno.Text(u"Label_FTP_Adresa"_qs), txtFTP_Adresa);
-    formular->addRow(Okno.Text(u"Label_FTP_data1"_qs), txtFTP_data1);
-    formular->addRow(Okno.Text(u"Label_FTP_data2"_qs), txtFTP_data2);
-    formular->addRow(Okno.Text(u"Label_Csv_Adresa"_qs), txtCsv_Adresa);
+    formular->addRow(Okno().Text(u"Label_FTP_Adresa"_qs), txtFTP_Adresa);
+    formular->addRow(Okno().Text(u"Label_FTP_data1"_qs), txtFTP_data1);
+    formular->addRow(Okno().Text(u"Label_FTP_data2"_qs), txtFTP_data2);
+    formular->addRow(Okno().Text(u"Label_Csv_Adresa"_qs), txtCsv_Adresa);
     formular->addRow(chkSmazatAktSoubor);
     formular->addRow(chkZalohaDatTahu);
-    formular->addRow(Okno.Text(u"Label_Server_Aktualizace"_qs), txtServer_Aktualizace);
+    formular->addRow(Okno().Text(u"Label_Server_Aktualizace"_qs), txtServer_Aktualizace);
 }
 
 void Stranka_Download::Uloz() {

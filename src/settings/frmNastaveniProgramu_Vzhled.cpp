@@ -23,12 +23,7 @@ using modNastaveni_Ovladani::Indexem;
 
 namespace {
 
-const modNastaveni_Ovladani::Texty_Okna Okno{u"frmNastaveniProgramu"_qs};
 constexpr int Nejvetsi_Tloustka = 10;
-
-template <class T> T* Prvek(T* prvek, const QString& jmeno) {
-    return Okno.Pojmenuj(prvek, jmeno);
-}
 
 } // namespace
 
@@ -97,7 +92,7 @@ Stranka_Vzhled::Stranka_Vzhled(Nastaveni_Zaznam& kopie, const QString& cesta_pro
 
     auto* pozadi = Prvek(new QGroupBox(this), u"Frame_Pozadi"_qs);
     auto* formular = new QFormLayout(pozadi);
-    formular->addRow(Okno.Text(u"Label_Pozadi"_qs), cmbPozadi);
+    formular->addRow(Okno().Text(u"Label_Pozadi"_qs), cmbPozadi);
     formular->addRow(chkVypnout);
     formular->addRow(chkVlastni);
     auto* barvy = Prvek(new QGroupBox(this), u"Frame_Barvy"_qs);
@@ -121,7 +116,7 @@ Stranka_Vzhled::Stranka_Vzhled(Nastaveni_Zaznam& kopie, const QString& cesta_pro
     auto* sily = new QGridLayout(cary);
     for (int i = 0; i < 2; ++i) {
         txtTloustka_Cary[std::size_t(i)] = Prvek(new QLabel(cary), Indexem(u"txtTloustka_Cary"_qs, i));
-        sily->addWidget(new QLabel(Okno.Text(Indexem(u"Label_Cara"_qs, i)), cary), i, 0);
+        sily->addWidget(new QLabel(Okno().Text(Indexem(u"Label_Cara"_qs, i)), cary), i, 0);
         sily->addWidget(i == 0 ? HScroll1 : HScroll2, i, 1);
         sily->addWidget(txtTloustka_Cary[std::size_t(i)], i, 2);
     }
