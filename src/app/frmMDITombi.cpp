@@ -25,6 +25,7 @@
 #include "data/Soubory.h"
 #include "generator/frmGeneruj.h"
 #include "bettors/frmSeznamSazejicich.h"
+#include "net/frmStin.h"
 #include "printing/frmTiskTiketu.h"
 #include "settings/frmHeslo.h"
 #include "settings/frmNastaveniProgramu.h"
@@ -112,6 +113,7 @@ frmMDITombi::frmMDITombi(Relace& relace, QWidget* parent)
     frmTiskTiketu::Pripoj_Prikazy(*this);
     frmSeznamSazejicich::Pripoj_Prikazy(*this);
     frmNastaveniProgramu::Pripoj_Prikazy(*this);
+    frmStin::Pripoj_Prikazy(*this);
     frmAnalyzaTahu::Pripoj_Prikazy(*this);
     frmVypisTahu::Pripoj_Prikazy(*this);
     Timer2 = new QTimer(this);
@@ -234,7 +236,6 @@ bool frmMDITombi::Je_Nehotovy(const QAction* prikaz) const {
     // Commands whose windows are still to come stay off; a command is switched on by taking it
     // out of this list once its window connects it.
     const QAction* const nehotove[] = {
-        mnuDownload,
         mnuWebTombiNovaVer,
     };
     return std::find(std::begin(nehotove), std::end(nehotove), prikaz) != std::end(nehotove);

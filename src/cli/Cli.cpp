@@ -26,6 +26,7 @@ const char* const Pouziti =
     "  tombi-cli print SOUBOR.tip [--od T1] [--pocet P] [--osa-x MM] [--osa-y MM] [--cislo-tiketu]\n"
     "      [--den streda|nedele] [--sance]\n"
     "  tombi-cli bettors SOUBOR.szn [--vyhra KC]\n"
+    "  tombi-cli download --adresa URL [--csv URL] --dir SLOZKA\n"
     "  tombi-cli cfg SOUBOR\n"
     "  tombi-cli generate --tipy N [--tikety M] [--tutovky A,B,C] [--pouzit SEZNAM | --vynechat SEZNAM]\n"
     "      [--rsk S,R,K] [--treti N] [--ceny ARCHIV.sez] [--dekada N] [--neopakovat] [--sudlich S,L,R]\n"

@@ -199,6 +199,8 @@ int main(int argc, char** argv) {
         return Tipy(args);
     if (prikaz == u"print")
         return Tisk(args);
+    if (prikaz == u"download")
+        return Stahovani(args);
     if (prikaz == u"bettors")
         return Seznam_Sazejicich(args);
     if (prikaz == u"wheel")
