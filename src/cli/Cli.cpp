@@ -27,6 +27,7 @@ const char* const Pouziti =
     "      [--den streda|nedele] [--sance]\n"
     "  tombi-cli bettors SOUBOR.szn [--vyhra KC]\n"
     "  tombi-cli download --adresa URL [--csv URL] --dir SLOZKA\n"
+    "  tombi-cli update --server POCITAC:PORT --dir SLOZKA [--vse]\n"
     "  tombi-cli cfg SOUBOR\n"
     "  tombi-cli generate --tipy N [--tikety M] [--tutovky A,B,C] [--pouzit SEZNAM | --vynechat SEZNAM]\n"
     "      [--rsk S,R,K] [--treti N] [--ceny ARCHIV.sez] [--dekada N] [--neopakovat] [--sudlich S,L,R]\n"

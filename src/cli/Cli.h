@@ -63,6 +63,8 @@ int Operace_Tipu(const QStringList& args);
 int Rozpisy(const QStringList& args);
 // print FILE.tip ...: the marks of the printed tickets.
 int Tisk(const QStringList& args);
+// update --server HOST:PORT --dir DIR [--vse]: the program update.
+int Aktualizace_Programu(const QStringList& args);
 // download --adresa URL [--csv URL] --dir DIR: the draw data download.
 int Stahovani(const QStringList& args);
 // bettors FILE.szn [--vyhra KC]: a bettors' list and the split of a win.

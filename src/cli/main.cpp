@@ -199,6 +199,8 @@ int main(int argc, char** argv) {
         return Tipy(args);
     if (prikaz == u"print")
         return Tisk(args);
+    if (prikaz == u"update")
+        return Aktualizace_Programu(args);
     if (prikaz == u"download")
         return Stahovani(args);
     if (prikaz == u"bettors")
