@@ -232,15 +232,6 @@ void frmMDITombi::Obsluz(QAction* prikaz, std::function<void()> obsluha) {
     Obsluhovane.insert(prikaz);
 }
 
-bool frmMDITombi::Je_Nehotovy(const QAction* prikaz) const {
-    // Commands whose windows are still to come stay off; a command is switched on by taking it
-    // out of this list once its window connects it.
-    const QAction* const nehotove[] = {
-        mnuWebTombiNovaVer,
-    };
-    return std::find(std::begin(nehotove), std::end(nehotove), prikaz) != std::end(nehotove);
-}
-
 void frmMDITombi::Nastav_Zamek(const QString& jmeno, Zamek zamek) {
     if (zamek)
         Zamky.insert(jmeno, std::move(zamek));
@@ -256,7 +247,7 @@ void frmMDITombi::Obnov_Povoleni() {
     menuBar()->setEnabled(!Sluzby_Okna->Pracuje());
     for (QMenu* menu : {mnuVolbaTahu, mnuTipy, mnuTahy, mnuSeznamy, mnuProgram}) {
         for (QAction* prikaz : menu->actions()) {
-            bool zapnout = !Je_Nehotovy(prikaz);
+            bool zapnout = true;
             if (Chybi_Tahy && std::find(std::begin(archivni), std::end(archivni), prikaz) != std::end(archivni))
                 zapnout = false;
             for (const Zamek& zamek : std::as_const(Zamky))

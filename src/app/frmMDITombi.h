@@ -74,7 +74,6 @@ public:
     // yet built, and a test holds the frame to that.
     void Obsluz(QAction* prikaz, std::function<void()> obsluha);
     bool Ma_Obsluhu(const QAction* prikaz) const { return Obsluhovane.contains(prikaz); }
-    bool Je_Nehotovy(const QAction* prikaz) const;
     // A lock keeps the commands for which it answers true off while it stands: the password wait,
     // a window's own rules. An empty lock takes the one of that name away.
     using Zamek = std::function<bool(const QAction* prikaz)>;

@@ -6,17 +6,22 @@
 #include "app/frmOProgramu.h"
 #include "app/frmOvladani.h"
 #include "core/Tabulka_Textu.h"
+#include "net/Aktualizace.h"
 #include "net/Stahovani_Tahu.h"
 #include "settings/Nastaveni_Programu.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QCoreApplication>
+#include <QEventLoop>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSettings>
+#include <QThread>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -78,6 +83,7 @@ void frmStin::Rezim_Prubehu() {
     cmdZrusit->show();
     cmdZrusit->setEnabled(true);
     cmdOK->setEnabled(false);
+    prgPrubeh->show();
     prgPrubeh->setValue(0);
     Zrusit = false;
 }
@@ -126,7 +132,7 @@ bool frmStin::Stahni_Data_Tahu() {
     if (Sezeni.Registr != nullptr)
         z.Csv = Sezeni.Registr->value(QString::fromUtf16(Nastaveni_Programu::Klic_Csv_Adresa)).toString();
     const Vysledek v = Stahovani_Tahu::Stahni_Data_Tahu(
-        z, [this](const QString& text, bool hotovo) { Radek(text, hotovo); }, [this] { return Zrusit; },
+        z, [this](const QString& text, bool hotovo) { Radek(text, hotovo); }, [this] { return Zrusit.load(); },
         [this](int procenta) {
             Prubeh(procenta);
             return !Zrusit;
@@ -137,6 +143,85 @@ bool frmStin::Stahni_Data_Tahu() {
     if (!v.Ok())
         Sezeni.Sluzby->Zprava(v.Zprava);
     return v.Ok();
+}
+
+void frmStin::V_Pozadi(const std::function<void()>& prace) {
+    QEventLoop smycka;
+    QThread* vlakno = QThread::create(prace);
+    connect(vlakno, &QThread::finished, &smycka, &QEventLoop::quit);
+    vlakno->start();
+    smycka.exec();
+    vlakno->wait();
+    delete vlakno;
+}
+
+Aktualizace::Spojeni frmStin::Spojeni() {
+    Aktualizace::Spojeni s;
+    if (Sezeni.Registr != nullptr)
+        s.Server = Sezeni.Registr->value(QString::fromUtf16(Nastaveni_Programu::Klic_Serveru_Aktualizace)).toString();
+    s.Zrusit = [this] { return Zrusit.load(); };
+    // The bar is moved from the thread of the transfer through this window's events.
+    s.Prubeh_Prenosu = [this](int procenta) {
+        QMetaObject::invokeMethod(this, [this, procenta] { Prubeh(procenta); }, Qt::QueuedConnection);
+        return true;
+    };
+    return s;
+}
+
+bool frmStin::Aktualizace_Programu() {
+    if (Bezi)
+        return false;
+    const Aktualizace::Spojeni spojeni = Spojeni();
+    if (spojeni.Server.trimmed().isEmpty()) {
+        Sezeni.Sluzby->Zprava(u"Není nastaven server aktualizací (Program - Nastavení, stránka Download)."_qs);
+        close();
+        return false;
+    }
+    Bezi = true;
+    lstPrubeh->clear();
+    Rezim_Prubehu();
+    Radek(Stahovani_Tahu::Radek_Spojeni, false);
+    Aktualizace::Nabidka nabidka;
+    const QString adresar = Sezeni.Cesta_Programu, verze = Sezeni.Verze;
+    V_Pozadi([&] { nabidka = Aktualizace::Zjisti_Verze(spojeni, adresar, verze); });
+    Konec();
+    if (!nabidka.Stav.Ok()) {
+        Sezeni.Sluzby->Zprava(nabidka.Stav.Zprava);
+        return false;
+    }
+    std::array<QString, 7> texty;
+    for (std::size_t i = 0; i < texty.size(); ++i)
+        texty[i] = Aktualizace::Soubory()[i].Text;
+    Zobraz_Nabidku(texty, nabidka.Nove, [this](const std::array<bool, 7>& znacky) { Stahni_Soubory(znacky); });
+    return true;
+}
+
+void frmStin::Stahni_Soubory(const std::array<bool, 7>& znacky) {
+    if (Bezi)
+        return;
+    Bezi = true;
+    lstPrubeh->clear();
+    Rezim_Prubehu();
+    const Aktualizace::Spojeni spojeni = Spojeni();
+    const QString adresar = Sezeni.Cesta_Programu;
+    Aktualizace::Stazeni st;
+    V_Pozadi([&] {
+        st = Aktualizace::Stahni_Soubory(spojeni, adresar, znacky, [this](const QString& text, bool hotovo) {
+            QMetaObject::invokeMethod(this, [this, text, hotovo] { Radek(text, hotovo); }, Qt::QueuedConnection);
+        });
+    });
+    QCoreApplication::sendPostedEvents(this);
+    Konec();
+    // A new archive of the day in use is read at once.
+    Ram.Prepni_Den(Den(Sezeni.Tikety.Den_Tahu));
+    if (!st.Stav.Ok()) {
+        Sezeni.Sluzby->Zprava(st.Stav.Zprava);
+        return;
+    }
+    if (!st.Zmeny.isEmpty())
+        Ram.Otevri_Adresu(QUrl::fromLocalFile(st.Zmeny));
+    if (!st.Zprava.isEmpty())
+        Sezeni.Sluzby->Zprava(st.Zprava);
 }
 
 void frmStin::Zobraz_Nabidku(const std::array<QString, 7>& texty, const std::array<bool, 7>& znacky,
@@ -153,6 +238,7 @@ void frmStin::Zobraz_Nabidku(const std::array<QString, 7>& texty, const std::arr
     lblOtazka->setText(nove ? u"Provést stažení vybraných souborů ?"_qs
                             : u"Všechny soubory jsou aktuální, netřeba downloadu."_qs);
     lblOtazka->show();
+    prgPrubeh->hide();
     cmdDownloadAno->show();
     cmdDownloadAno->setEnabled(nove);
     cmdDownloadNe->show();
@@ -175,4 +261,5 @@ void frmStin::Pripoj_Prikazy(frmMDITombi& ram) {
         ram.Zavri_Okno<frmOProgramu>();
         ram.Otevri_Okno<frmStin>(ram)->Stahni_Data_Tahu();
     });
+    ram.Obsluz(ram.mnuWebTombiNovaVer, [&ram] { ram.Otevri_Okno<frmStin>(ram)->Aktualizace_Programu(); });
 }

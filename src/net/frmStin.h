@@ -2,8 +2,11 @@
 // The window of the internet steps: the rows of the draw data download as they start and end,
 // with a bar, a stop and a close; and the offer of the program update, a row a file with its mark.
 
+#include "net/Aktualizace.h"
+
 #include <QWidget>
 #include <array>
+#include <atomic>
 #include <functional>
 
 class QCheckBox;
@@ -27,6 +30,10 @@ public:
     // afterwards, whatever came. False when the download failed or was stopped.
     bool Stahni_Data_Tahu();
 
+    // mnuWebTombiNovaVer: asks the update server what is new and offers it; yes fetches the marked
+    // files. False when the server could not be asked.
+    bool Aktualizace_Programu();
+
     // The offer mode: a row a file with its mark, and the question or the word that all is current.
     // `stahnout` runs with the marks when the user says yes.
     void Zobraz_Nabidku(const std::array<QString, 7>& texty, const std::array<bool, 7>& znacky,
@@ -34,7 +41,6 @@ public:
     // A step of a long job in the rows, and its progress; for the update's fetch.
     void Radek(const QString& text, bool hotovo);
     void Prubeh(int procenta);
-    bool Zruseno() const { return Zrusit; }
     void Konec();
 
     QListWidget* lstPrubeh;
@@ -51,10 +57,14 @@ protected:
 
 private:
     void Rezim_Prubehu();
+    void Stahni_Soubory(const std::array<bool, 7>& znacky);
+    Aktualizace::Spojeni Spojeni();
+    // Runs a call that waits for a server on a thread of its own, with this window's events running.
+    void V_Pozadi(const std::function<void()>& prace);
 
     frmMDITombi& Ram;
     Relace& Sezeni;
     bool Bezi = false;
-    bool Zrusit = false;
+    std::atomic<bool> Zrusit = false;
     std::function<void(const std::array<bool, 7>&)> Stahnout;
 };

@@ -4,6 +4,7 @@
 // entry in the list below.
 
 #include "Prostredi_Okna.h"
+#include "Server_Http.h"
 #include "analysis/frmAnalyzaTahu.h"
 #include "analysis/frmAnalyzaTahu_Graf.h"
 #include "analysis/frmVypisAnalyz.h"
@@ -24,6 +25,9 @@
 #include "generator/frmGeneruj.h"
 #include "generator/frmGeneruj_Omezeni.h"
 #include "generator/frmGeneruj_Vyber.h"
+#include "net/Aktualizace.h"
+#include "net/Stahovani_Tahu.h"
+#include "net/frmStin.h"
 #include "printing/frmTiskTiketu.h"
 #include "settings/Nastaveni_Programu.h"
 #include "settings/frmHeslo.h"
@@ -388,6 +392,29 @@ int main(int argc, char** argv) {
                               prostredi->Okno->Najdi_Okno<frmNastaveniProgramu>()->Ukaz_Stranku(i);
                               return prostredi->Okno.release();
                           }});
+    // The download against a server of the picture's own, every row done; and the update's offer.
+    snimky.push_back({u"frmStin"_qs, [](QWidget*) -> QWidget* {
+                          static Server_Http server;
+                          server.Cesty[u"/set/sportka-streda.dbf"_qs] = {Tabulka_Dbf(int(Den::Streda))};
+                          server.Cesty[u"/set/sportka-nedele.dbf"_qs] = {
+                              Tabulka_Dbf(int(Den::Nedele), Stahovani_Tahu::Nejmensi_Nedele)};
+                          static Prostredi prostredi(QDate(2026, 11, 28));
+                          prostredi.Spust().resize(900, 600);
+                          prostredi.Data->Nastaveni.FTP_Adresa = server.Adresa() + u"/set"_qs;
+                          prostredi.Prikaz(u"mnuDownload"_qs)->trigger();
+                          return prostredi.Okno.release();
+                      }});
+    snimky.push_back({u"frmStin_Nabidka"_qs, [](QWidget*) -> QWidget* {
+                          static Prostredi prostredi(QDate(2026, 11, 28));
+                          prostredi.Spust().resize(900, 600);
+                          auto* okno = prostredi.Okno->Otevri_Okno<frmStin>(*prostredi.Okno);
+                          std::array<QString, 7> texty;
+                          for (std::size_t i = 0; i < texty.size(); ++i)
+                              texty[i] = Aktualizace::Soubory()[i].Text;
+                          okno->Zobraz_Nabidku(texty, {true, false, true, true, false, false, true},
+                                               [](const std::array<bool, 7>&) {});
+                          return prostredi.Okno.release();
+                      }});
     snimky.push_back({u"frmHeslo"_qs, [](QWidget*) -> QWidget* {
                           static Prostredi prostredi(QDate(2026, 11, 28));
                           prostredi.Registr->setValue(QString::fromUtf16(Klic_Pws),

@@ -4,12 +4,15 @@
 // The window shows the rows and loads the session's day anew; tombi-cli prints the rows.
 #include "Bajty.h"
 #include "Prostredi_Okna.h"
+#include "Server_Ftp.h"
 #include "Server_Http.h"
 #include "Spust_Cli.h"
 #include "net/Stahovani_Tahu.h"
 #include "net/frmStin.h"
 #include "settings/Nastaveni_Programu.h"
 
+#include <QCheckBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QProcess>
 #include <QPushButton>
@@ -137,6 +140,27 @@ private slots:
         QVERIFY(okno->cmdOK->isEnabled() && !okno->cmdZrusit->isEnabled());
         QCOMPARE(p.Oznameni().last(), Text_Chyby_Prenosu);
         QCOMPARE(p.Data->Archiv.Pocet_Tahy_1, tahu);
+    }
+
+    void Aktualizace_V_Okne() {
+        Server_Ftp server("[new]\nprogram=999\nhelp=1.1.2000\ndata_str=1.1.2000\ndata_ned=1.1.2000\n"
+                          "rozpisy=1.1.2000\nuzivatele=1.1.2000\npopis=1.1.2000\n");
+        Prostredi p(QDate(2026, 11, 28));
+        for (const char* soubor : {"tombi.chm", "Kolovka.exe", "Tombi_Vyhodnoceni.exe", "_zmeny.txt"})
+            Zapis_Souboru(p.Cesta(QString::fromLatin1(soubor)), "stary");
+        frmMDITombi& ram = p.Spust();
+        p.Registr->setValue(QString::fromUtf16(Nastaveni_Programu::Klic_Serveru_Aktualizace), server.Adresa);
+        p.Prikaz(u"mnuWebTombiNovaVer"_qs)->trigger();
+        auto* okno = ram.Najdi_Okno<frmStin>();
+        QVERIFY(okno != nullptr);
+        QVERIFY(okno->chkDownload[0]->isChecked() && okno->chkDownload[0]->isVisible());
+        for (std::size_t i = 1; i < okno->chkDownload.size(); ++i)
+            QVERIFY(!okno->chkDownload[i]->isChecked());
+        QCOMPARE(okno->lblOtazka->text(), u"Provést stažení vybraných souborů ?"_qs);
+        okno->cmdDownloadAno->click();
+        QCOMPARE(Obsah_Souboru(p.Cesta(u"tombi_"_qs)), QByteArray("novy program"));
+        QCOMPARE(p.Oznameni().last(), u"Ukončete program a spusttě  tombi_"_qs);
+        QCOMPARE(okno->lstPrubeh->item(0)->checkState(), Qt::Checked);
     }
 
     void Prikaz_Cli() {

@@ -3,52 +3,19 @@
 // tombi_), a missing _data.ini, a wrong password, a cut connection and a stop, after which the
 // program's folder is as it was; and tombi-cli update.
 #include "Bajty.h"
+#include "Server_Ftp.h"
 #include "Spust_Cli.h"
 #include "net/Aktualizace.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace Aktualizace;
 
 namespace {
-
-// The server over a folder of its own; stopped with the object.
-struct Server_Ftp {
-    QTemporaryDir Domov;
-    QProcess Proces;
-    QString Adresa;
-
-    explicit Server_Ftp(const QByteArray& ini, bool pomalu = false, const QString& heslo = QString::fromLatin1(Heslo_Uctu)) {
-        QDir(Domov.path()).mkpath(u"tombi/data"_qs);
-        if (!ini.isEmpty())
-            Zapis_Souboru(Domov.filePath(u"tombi/_data.ini"_qs), ini);
-        Zapis_Souboru(Domov.filePath(u"tombi/data/tombi_"_qs), "novy program");
-        Zapis_Souboru(Domov.filePath(u"tombi/data/SpS_tahy.sez"_qs), QByteArray(pomalu ? 400000 : 956, 'S'));
-        Zapis_Souboru(Domov.filePath(u"tombi/data/_zmeny.txt"_qs), "zmeny");
-        Proces.setWorkingDirectory(Domov.path());
-        QStringList argumenty{QStringLiteral(TOMBI_SERVER_FTP), Domov.path(), QString::fromLatin1(Uzivatel), heslo};
-        if (pomalu)
-            argumenty << u"--pomalu"_qs;
-        Proces.start(u"/usr/bin/python3"_qs, argumenty);
-        if (Proces.waitForReadyRead(10000))
-            Adresa = u"127.0.0.1:"_qs + QString::fromLatin1(Proces.readLine().trimmed());
-    }
-    ~Server_Ftp() {
-        Proces.kill();
-        Proces.waitForFinished();
-    }
-    Spojeni Pripojeni() const {
-        Spojeni s;
-        s.Server = Adresa;
-        s.Limit_S = 5;
-        return s;
-    }
-};
 
 const QByteArray Ini = "[new]\nprogram=999\nhelp=1.1.2000\ndata_str=1.1.2100\ndata_ned=1.1.2000\n"
                        "rozpisy=1.1.2000\nuzivatele=1.1.2100\npopis=1.1.2100\n";
