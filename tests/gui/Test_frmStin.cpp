@@ -142,6 +142,26 @@ private slots:
         QCOMPARE(p.Data->Archiv.Pocet_Tahy_1, tahu);
     }
 
+    void Zrusit_V_Okne() {
+        Prostredi p(QDate(2026, 11, 28));
+        const Archivy pred = Na_Disku(p);
+        Server_Http server;
+        server.Cesty[u"/set/sportka-streda.dbf"_qs] = {Tabulka_Dbf(int(Den::Streda)), Server_Http::Chovani::Pomalu};
+        frmMDITombi& ram = p.Spust();
+        p.Data->Nastaveni.FTP_Adresa = server.Adresa() + u"/set"_qs;
+        // Zrušit pressed while the server keeps silent; the window stays open until the fetch ends.
+        QTimer::singleShot(200, this, [&ram] {
+            auto* okno = ram.Najdi_Okno<frmStin>();
+            okno->close();
+            QVERIFY(okno->isVisible());
+            okno->cmdZrusit->click();
+        });
+        p.Prikaz(u"mnuDownload"_qs)->trigger();
+        QCOMPARE(p.Oznameni().last(), Text_Zruseno);
+        QCOMPARE(Na_Disku(p), pred);
+        QVERIFY(ram.Najdi_Okno<frmStin>()->cmdOK->isEnabled());
+    }
+
     void Aktualizace_V_Okne() {
         Server_Ftp server("[new]\nprogram=999\nhelp=1.1.2000\ndata_str=1.1.2000\ndata_ned=1.1.2000\n"
                           "rozpisy=1.1.2000\nuzivatele=1.1.2000\npopis=1.1.2000\n");
